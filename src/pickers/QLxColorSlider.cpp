@@ -15,7 +15,25 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
+
+namespace {
+
+/// A rectangle outline from one corner pixel to another, both included, in a solid 1-pixel pen.
+void drawFrame(QPainter &painter, const QRect &canvas, const QColor &color, int x, int y, int w, int h)
+{
+    if (w < 1 || h < 1 || !canvas.contains(QRect(x, y, w + 1, h + 1))) {
+        painter.setPen(color);
+        painter.drawRect(x, y, w, h);
+        return;
+    }
+    // The same pixels, several times as fast.
+    painter.fillRect(x, y, w + 1, 1, color);
+    painter.fillRect(x, y + h, w + 1, 1, color);
+    painter.fillRect(x, y + 1, 1, h - 1, color);
+    painter.fillRect(x + w, y + 1, 1, h - 1, color);
+}
+
+} // namespace
 
 QLxColorSlider::QLxColorSlider(QWidget *parent, const char *name)
     : QLxColorSlider(Qt::Horizontal, parent, name)
@@ -261,36 +279,29 @@ void QLxColorSlider::repaintSlider(QPainter &painter)
 {
     const int w = width();
     const int h = height();
-    const QColor button = palette().color(QPalette::Button);
-    painter.setPen(button);
-    painter.setBrush(button);
-    painter.drawRect(0, 0, w - 1, h - 1);
-    painter.setBrush(Qt::NoBrush);
+    painter.fillRect(rect(), palette().color(QPalette::Button));
 
     // The ramp fills the columns from 1 to n - 1 and the rows between 2 and h - 2, whichever is above.
     const int n = w - 2;
     const QRect ramp(QPoint(1, std::min(2, h - 2)), QPoint(n - 1, std::max(2, h - 2)));
-    if (n >= 2) {
-        QImage image(ramp.size(), QImage::Format_RGB32);
-        auto *const firstRow = reinterpret_cast<QRgb *>(image.bits());
+    QImage row(std::max(ramp.width(), 0), 1, QImage::Format_RGB32);
+    if (!row.isNull()) {
+        auto *const pixels = reinterpret_cast<QRgb *>(row.bits());
         bool painted = true;
         if (isEnabled())
-            painted = QLx::fillColorRamp(m_mode, m_maxColor, n, firstRow, ramp.width());
+            painted = QLx::fillColorRamp(m_mode, m_maxColor, n, pixels, row.width());
         else
-            QLx::fillDisabledRamp(n, firstRow, ramp.width());
+            QLx::fillDisabledRamp(n, pixels, row.width());
         if (painted) {
-            for (int y = 1; y < image.height(); ++y)
-                std::memcpy(image.scanLine(y), firstRow, static_cast<size_t>(ramp.width()) * sizeof(QRgb));
-            painter.drawImage(ramp.topLeft(), image);
+            painter.setBrushOrigin(ramp.topLeft());
+            painter.fillRect(ramp, QBrush(row));
+            painter.setBrushOrigin(0, 0);
         }
     }
 
-    painter.setPen(palette().color(QPalette::Light));
-    painter.drawRect(1, 1, w - 4, h - 4);
-    painter.setPen(palette().color(QPalette::Midlight));
-    painter.drawRect(2, 2, w - 4, h - 4);
-    painter.setPen(palette().color(QPalette::Shadow));
-    painter.drawRect(1, 1, w - 3, h - 3);
+    drawFrame(painter, rect(), palette().color(QPalette::Light), 1, 1, w - 4, h - 4);
+    drawFrame(painter, rect(), palette().color(QPalette::Midlight), 2, 2, w - 4, h - 4);
+    drawFrame(painter, rect(), palette().color(QPalette::Shadow), 1, 1, w - 3, h - 3);
 
     if (isEnabled() || !(m_photometric || m_useSpectrum))
         return;
@@ -307,11 +318,7 @@ void QLxColorSlider::paintHandle(QPainter &painter)
         return;
     const int hx = static_cast<int>(std::clamp(position, -8.0F, static_cast<float>(width() + 8)));
     const int h = height() - 1;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(palette().color(QPalette::Midlight));
-    painter.drawRect(hx - 2, 0, 3, h - 1);
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(hx - 1, 1, 3, h - 1);
-    painter.setPen(palette().color(QPalette::Shadow));
-    painter.drawRect(hx - 2, 0, 4, h);
+    drawFrame(painter, rect(), palette().color(QPalette::Midlight), hx - 2, 0, 3, h - 1);
+    drawFrame(painter, rect(), palette().color(QPalette::Highlight), hx - 1, 1, 3, h - 1);
+    drawFrame(painter, rect(), palette().color(QPalette::Shadow), hx - 2, 0, 4, h);
 }

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#ifndef SIGNALLOG_H
+#define SIGNALLOG_H
+
+#include "QLxColor.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <initializer_list>
+
+/// Floats with all their digits, so that logs compare exactly.
+inline QString asText(float x)
+{
+    return QString::number(static_cast<double>(x), 'g', 9);
+}
+inline QString asText(int x)
+{
+    return QString::number(x);
+}
+inline QString asText(bool x)
+{
+    return x ? QStringLiteral("true") : QStringLiteral("false");
+}
+inline QString asText(const QString &x)
+{
+    return QLatin1Char('"') + x + QLatin1Char('"');
+}
+inline QString asText(const QLxColor &c)
+{
+    return QStringLiteral("hsv ") + asText(c.hue) + QLatin1Char(' ') + asText(c.saturation) + QLatin1Char(' ')
+        + asText(c.value);
+}
+
+/// One ordered log of all signals of all senders that it watches: a line for each emission, "name(payload)".
+class SignalLog
+{
+public:
+    /// The receiver to use for other connections that should end with the log.
+    QObject *context() { return &m_context; }
+
+    template <typename Sender, typename Class, typename... Args>
+    void watch(Sender *sender, void (Class::*signal)(Args...), const char *name)
+    {
+        const QString text = QString::fromLatin1(name);
+        QObject::connect(sender, signal, &m_context, [this, text](Args... args) {
+            QStringList payload;
+            (payload.append(asText(args)), ...);
+            note(text + QLatin1Char('(') + payload.join(QStringLiteral(", ")) + QLatin1Char(')'));
+        });
+    }
+
+    void note(const QString &line) { m_lines.append(line); }
+
+    /// The lines since the last call.
+    QStringList take()
+    {
+        QStringList lines;
+        lines.swap(m_lines);
+        return lines;
+    }
+
+private:
+    QObject m_context;
+    QStringList m_lines;
+};
+
+/// One line of an expected log.
+struct LogLine : QString
+{
+    LogLine(const char *line)
+        : QString(QString::fromLatin1(line))
+    {
+    }
+    LogLine(const QString &line)
+        : QString(line)
+    {
+    }
+};
+
+inline QString logText(std::initializer_list<LogLine> lines)
+{
+    QStringList text;
+    for (const LogLine &line : lines)
+        text.append(line);
+    return text.join(QLatin1Char('\n'));
+}
+
+/// Compares what was logged since the last look, as in COMPARE_LOG(log, {"first()", "second(1)"}).
+#define COMPARE_LOG(log, ...) QCOMPARE((log).take().join(QLatin1Char('\n')), logText(__VA_ARGS__))
+
+#endif
