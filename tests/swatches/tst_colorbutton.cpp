@@ -1,0 +1,637 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#include "FakeDialog.h"
+#include "Pointer.h"
+#include "QLxColorButton.h"
+#include "QLxColorSpaces.h"
+#include "SignalLog.h"
+#include "TestCase.h"
+
+#include <QDrag>
+#include <QMimeData>
+#include <QPainter>
+
+#include <limits>
+#include <memory>
+
+namespace {
+
+constexpr float Nan = std::numeric_limits<float>::quiet_NaN();
+
+void watch(SignalLog &log, QLxColorButton *button, const char *who = "")
+{
+    using B = QLxColorButton;
+    const auto name = [who](const char *signal) { return QByteArray(who) + signal; };
+    log.watch(button, &B::colorButtonClicked, name("colorButtonClicked"));
+    log.watch(button, &B::temporaryColorChosen, name("temporaryColorChosen"));
+    log.watch(button, &B::finalColorChosen, name("finalColorChosen"));
+    log.watch(button, &B::userSkipped, name("userSkipped"));
+    log.watch(button, &B::userAccepted, name("userAccepted"));
+}
+
+void click(QWidget &widget, Qt::MouseButton button = Qt::LeftButton)
+{
+    Pointer pointer(&widget);
+    pointer.press({3, 3}, button);
+    pointer.release({3, 3}, button);
+}
+
+QString look(int red, int green, int blue)
+{
+    return QStringLiteral("QPushButton {border: 1px solid rgb(127, 127, 127);border-radius: 3px;"
+                          "background: rgb(%1, %2, %3);}")
+        .arg(red)
+        .arg(green)
+        .arg(blue);
+}
+
+std::unique_ptr<QMimeData> colorData(const QColor &color)
+{
+    auto data = std::make_unique<QMimeData>();
+    data->setColorData(color);
+    return data;
+}
+
+template <typename Event, typename Pos>
+bool send(QWidget *widget, const Pos &pos, const QMimeData *data)
+{
+    Event event(pos, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    QApplication::sendEvent(widget, &event);
+    return event.isAccepted();
+}
+
+bool sendEnter(QWidget *widget, const QMimeData *data)
+{
+    return send<QDragEnterEvent>(widget, QPoint(3, 3), data);
+}
+
+/// Enters with a colour first: moves and drops reach only a widget that has accepted to be entered.
+template <typename Event, typename Pos = QPoint>
+bool sendAfterEnter(QWidget *widget, const QMimeData *data)
+{
+    sendEnter(widget, colorData(Qt::red).get());
+    return send<Event>(widget, Pos(3, 3), data);
+}
+
+bool sendMove(QWidget *widget, const QMimeData *data)
+{
+    return sendAfterEnter<QDragMoveEvent>(widget, data);
+}
+
+bool sendDrop(QWidget *widget, const QMimeData *data)
+{
+    return sendAfterEnter<QDropEvent, QPointF>(widget, data);
+}
+
+} // namespace
+
+class TestColorButton : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsAsDocumented();
+    void styleSheetShowsTheColor_data();
+    void styleSheetShowsTheColor();
+    void styleSheetFollowsTheSettingOnlyWhenSet();
+    void clickWithoutDialog();
+    void clickOpensSharedDialog();
+    void twoButtonsInTurn();
+    void dialogIsTold();
+    void dialogParent_data();
+    void dialogParent();
+    void dialogGoneWithItsParent();
+    void destructorHidesDialog();
+    void anyMouseButtonAndTheKeyboardClick();
+    void dragCarriesTheColor();
+    void shortMoveIsNoDrag();
+    void dropTakesTheColor();
+    void dropOfOtherDataChangesNothing();
+    void focusFollowsTheDrag();
+    void multiselect();
+    void deletedInsideAnySignal_data();
+    void deletedInsideAnySignal();
+    void moduleDeletedInsideAnySignal_data();
+    void moduleDeletedInsideAnySignal();
+};
+
+void TestColorButton::startsAsDocumented()
+{
+    QWidget parent;
+    QLxColorButton button(&parent);
+    QCOMPARE(button.objectName(), QStringLiteral("QLxColorButton"));
+    QCOMPARE(button.sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(button.sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    QVERIFY(button.isFlat());
+    QVERIFY(button.acceptDrops());
+    QVERIFY(button.showColorDialog());
+    QCOMPARE(button.sizeHint(), QSize(20, 16));
+    QVERIFY(button.getColor() == (QLxColor{0, 0, 0.8F}));
+    QCOMPARE(button.styleSheet(), look(231, 231, 231));
+}
+
+void TestColorButton::styleSheetShowsTheColor_data()
+{
+    QTest::addColumn<QVector<float>>("hsv");
+    QTest::addColumn<bool>("useGamma");
+    QTest::addColumn<QString>("sheet");
+    const auto row = [](const char *name, const QLxColor &c, bool useGamma, const QString &sheet) {
+        QTest::newRow(name) << QVector<float>{c.hue, c.saturation, c.value} << useGamma << sheet;
+    };
+    row("white, encoded", {0, 0, 1}, true, look(254, 254, 254));
+    row("white, linear", {0, 0, 1}, false, look(255, 255, 255));
+    row("light grey, linear", {0, 0, 0.8F}, false, look(204, 204, 204));
+    row("green, encoded", {120, 1, 0.5F}, true, look(0, 187, 0));
+    row("above white", {0, 0, 5}, true, look(255, 255, 255));
+    row("NaN is black", {0, Nan, 1}, true, look(0, 0, 0));
+}
+
+void TestColorButton::styleSheetShowsTheColor()
+{
+    QFETCH(QVector<float>, hsv);
+    QFETCH(bool, useGamma);
+    QLx::colorUseGamma = useGamma;
+    QLxColorButton button;
+    SignalLog log;
+    watch(log, &button);
+    button.setColor({hsv[0], hsv[1], hsv[2]});
+    QTEST(button.styleSheet(), "sheet");
+    COMPARE_LOG(log, {});
+    QLx::colorUseGamma = true;
+}
+
+void TestColorButton::styleSheetFollowsTheSettingOnlyWhenSet()
+{
+    QLxColorButton button;
+    QLx::colorUseGamma = false;
+    QCOMPARE(button.styleSheet(), look(231, 231, 231));
+    button.setColor(button.getColor()); // an equal colour, shown anew
+    QCOMPARE(button.styleSheet(), look(204, 204, 204));
+    QLx::colorUseGamma = true;
+    button.setStyleSheet(QStringLiteral("/* a host's own */"));
+    button.setColor(button.getColor());
+    QCOMPARE(button.styleSheet(), look(231, 231, 231));
+}
+
+void TestColorButton::clickWithoutDialog()
+{
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QLxColorButton button;
+    watch(log, &button);
+    button.setShowColorDialog(false);
+    QVERIFY(!button.property("showColorDialog").toBool());
+    click(button);
+    COMPARE_LOG(log, {"colorButtonClicked()"});
+    QVERIFY(!sharedColorDialog);
+    // A process that has no dialog at all.
+    SharedColorDialog::setFactory(nullptr);
+    button.setShowColorDialog(true);
+    click(button);
+    COMPARE_LOG(log, {"colorButtonClicked()"});
+    QVERIFY(!sharedColorDialog);
+}
+
+void TestColorButton::clickOpensSharedDialog()
+{
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QWidget module;
+    module.setObjectName(QStringLiteral("Module"));
+    QLxColorButton button(&module);
+    button.setColor({-30.0F, 0.5F, 0.5F}); // handed on by way of RGB: hue 0
+    watch(log, &button);
+    click(button);
+    COMPARE_LOG(log, {"colorButtonClicked()", "dialog: made for hsv 0 0.5 0.5 in Module", "dialog: flag true",
+                      "dialog: shown", "dialog: setColor hsv 0 0.5 0.5, visible true, signals blocked true"});
+    QVERIFY(!dialogs.current()->signalsBlocked());
+    QVERIFY(!dialogs.current()->isModal());
+    QVERIFY(button.getColor() == (QLxColor{-30.0F, 0.5F, 0.5F}));
+
+    dialogs.current()->edit({10, 1, 1});
+    COMPARE_LOG(log, {"temporaryColorChosen(hsv 10 1 1)"});
+    QVERIFY(button.getColor() == (QLxColor{-30.0F, 0.5F, 0.5F}));
+    dialogs.current()->accept();
+    COMPARE_LOG(log, {"dialog: hidden", "dialog: flag true", "finalColorChosen(hsv 10 1 1)", "userAccepted()"});
+    QVERIFY(button.getColor() == (QLxColor{10, 1, 1}));
+    QCOMPARE(button.styleSheet(), look(254, 113, 0));
+
+    click(button);
+    log.take();
+    dialogs.current()->edit({20, 1, 1});
+    dialogs.current()->reject();
+    COMPARE_LOG(log, {"temporaryColorChosen(hsv 20 1 1)", "dialog: hidden", "dialog: flag true",
+                      "finalColorChosen(hsv 10 1 1)", "userSkipped()"});
+    QVERIFY(button.getColor() == (QLxColor{10, 1, 1}));
+}
+
+void TestColorButton::twoButtonsInTurn()
+{
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QWidget window;
+    window.setObjectName(QStringLiteral("window"));
+    QLxColorButton first(&window);
+    QLxColorButton second(&window);
+    first.setColor({60, 1, 1});
+    second.setColor({240, 1, 1});
+    watch(log, &first, "first.");
+    watch(log, &second, "second.");
+    int outsiders = 0;
+    click(first);
+    QObject::connect(dialogs.current(), &QDialog::accepted, log.context(), [&] { ++outsiders; });
+    COMPARE_LOG(log, {"first.colorButtonClicked()", "dialog: made for hsv 60 1 1 in window",
+                      "dialog: flag true", "dialog: shown",
+                      "dialog: setColor hsv 60 1 1, visible true, signals blocked true"});
+    const FakeDialog *const dialog = dialogs.current();
+    click(second);
+    COMPARE_LOG(log, {"second.colorButtonClicked()", "dialog: flag true",
+                      "dialog: setColor hsv 240 1 1, visible true, signals blocked true"});
+    QCOMPARE(dialogs.current(), dialog);
+    dialogs.current()->edit({1, 1, 1});
+    dialogs.current()->accept();
+    COMPARE_LOG(log, {"second.temporaryColorChosen(hsv 1 1 1)", "dialog: hidden", "dialog: flag true",
+                      "second.finalColorChosen(hsv 1 1 1)", "second.userAccepted()"});
+    QCOMPARE(outsiders, 0); // every earlier connection is cut, whoever made it
+    QVERIFY(first.getColor() == (QLxColor{60, 1, 1}));
+
+    click(second); // the same button twice hears everything once
+    log.take();
+    dialogs.current()->edit({2, 1, 1});
+    COMPARE_LOG(log, {"second.temporaryColorChosen(hsv 2 1 1)"});
+}
+
+void TestColorButton::dialogIsTold()
+{
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QLxColorButton button;
+    click(button);
+    dialogs.current()->blockSignals(true); // a host's own blocking stays
+    click(button);
+    QVERIFY(dialogs.current()->signalsBlocked());
+}
+
+void TestColorButton::dialogParent_data()
+{
+    QTest::addColumn<QString>("ancestors"); // from the window down to the button
+    QTest::addColumn<QString>("parent");
+    const auto row = [](const char *name, const char *ancestors, const char *parent) {
+        QTest::newRow(name) << QString::fromLatin1(ancestors) << QString::fromLatin1(parent);
+    };
+    row("topmost without Module", "window page", "window");
+    row("Module", "window Module page", "Module");
+    row("nearest Module", "Module inner Module page", "Module below inner");
+    row("case matters", "window module", "window");
+    row("alone", "", "QLxColorButton");
+}
+
+void TestColorButton::dialogParent()
+{
+    QFETCH(QString, ancestors);
+    QFETCH(QString, parent);
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QWidget *innermost = nullptr;
+    QWidget *top = nullptr;
+    for (const QString &name : ancestors.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        innermost = new QWidget(innermost, Qt::Window); // window boundaries do not stop the walk
+        innermost->setObjectName(name);
+        if (!top)
+            top = innermost;
+    }
+    auto *const button = new QLxColorButton(innermost);
+    const std::unique_ptr<QWidget> owner(top ? top : button);
+    click(*button);
+    const QWidget *const actual = dialogs.current()->parentWidget();
+    QCOMPARE(actual->objectName(), parent.section(QLatin1Char(' '), 0, 0));
+    if (parent.contains(QLatin1String("below")))
+        QCOMPARE(actual->parentWidget()->objectName(), parent.section(QLatin1Char(' '), 2));
+}
+
+void TestColorButton::dialogGoneWithItsParent()
+{
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QLxColorButton survivor;
+    watch(log, &survivor, "survivor.");
+    {
+        QWidget window;
+        window.setObjectName(QStringLiteral("short-lived"));
+        QLxColorButton button(&window);
+        click(button);
+        click(survivor);
+        QVERIFY(sharedColorDialog);
+        log.take();
+    }
+    QVERIFY(!sharedColorDialog);
+    log.take();
+    click(survivor);
+    COMPARE_LOG(log, {"survivor.colorButtonClicked()",
+                      LogLine(QStringLiteral("dialog: made for hsv 0 0 %1 in QLxColorButton")
+                                  .arg(asText(0.8F))),
+                      "dialog: flag true", "dialog: shown",
+                      LogLine(QStringLiteral("dialog: setColor hsv 0 0 %1, visible true, signals blocked true")
+                                  .arg(asText(0.8F)))});
+}
+
+void TestColorButton::destructorHidesDialog()
+{
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QLxColorButton opener;
+    click(opener);
+    QVERIFY(dialogs.current()->isVisible());
+    auto bystander = std::make_unique<QLxColorButton>(); // never opened anything
+    bystander.reset();
+    QVERIFY(dialogs.current());
+    QVERIFY(!dialogs.current()->isVisible());
+}
+
+void TestColorButton::anyMouseButtonAndTheKeyboardClick()
+{
+    QLxColorButton button;
+    button.setShowColorDialog(false);
+    SignalLog log;
+    watch(log, &button);
+    log.watch(&button, &QLxColorButton::clicked, "clicked");
+    log.watch(&button, &QLxColorButton::pressed, "pressed");
+    for (auto which : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        click(button, which);
+        COMPARE_LOG(log, {"colorButtonClicked()", "clicked(true)"});
+    }
+    Pointer(&button).release({3, 3}); // without a press
+    COMPARE_LOG(log, {});
+    QTest::keyClick(&button, Qt::Key_Space);
+    COMPARE_LOG(log, {"pressed()", "colorButtonClicked()", "clicked(false)"});
+    button.setEnabled(false);
+    click(button);
+    COMPARE_LOG(log, {});
+}
+
+void TestColorButton::dragCarriesTheColor()
+{
+    QLxColorButton button;
+    button.setColor({120, 0.5F, 1.5F});
+    SignalLog log;
+    watch(log, &button);
+    Pointer pointer(&button);
+    pointer.press({3, 3});
+    pointer.move({3 + QApplication::startDragDistance() + 1, 3});
+    auto *const drag = button.findChild<QDrag *>();
+    QVERIFY(drag);
+    QVERIFY(drag->mimeData()->hasColor());
+    const auto color = drag->mimeData()->colorData().value<QColor>();
+    QCOMPARE(color, QColor::fromRgbF(0.75, 1.0, 0.75)); // linear and clamped
+    QCOMPARE(color.alpha(), 255);
+    QCOMPARE(drag->pixmap().size(), QSize(30, 20));
+    QCOMPARE(drag->pixmap().toImage().pixelColor(15, 10), QLx::toQColor(button.getColor()));
+    pointer.release({50, 3});
+    COMPARE_LOG(log, {}); // no click
+}
+
+void TestColorButton::shortMoveIsNoDrag()
+{
+    QLxColorButton button;
+    button.setShowColorDialog(false);
+    SignalLog log;
+    watch(log, &button);
+    Pointer pointer(&button);
+    pointer.move({300, 3}); // no press before
+    pointer.press({3, 3});
+    pointer.move({3 + QApplication::startDragDistance(), 3}); // not farther than the distance
+    QVERIFY(!button.findChild<QDrag *>());
+    pointer.release({3, 3});
+    COMPARE_LOG(log, {"colorButtonClicked()"});
+}
+
+void TestColorButton::dropTakesTheColor()
+{
+    QLxColorButton button;
+    SignalLog log;
+    watch(log, &button);
+    const auto data = colorData(QColor::fromRgbF(1.0, 0.5, 0.0));
+    QVERIFY(sendMove(&button, data.get()));
+    QVERIFY(sendDrop(&button, data.get()));
+    const QColor dropped = data->colorData().value<QColor>();
+    const QLxColor expected = QLx::rgbToHsv(1.0F, static_cast<float>(dropped.greenF()), 0.0F);
+    COMPARE_LOG(log, {LogLine(QStringLiteral("finalColorChosen(%1)").arg(asText(expected)))});
+    QVERIFY(button.getColor() == expected);
+    QCOMPARE(button.styleSheet(), look(254, 187, 0));
+
+    // From one button to another, at the precision of the drag data.
+    button.setColor({210, 0.3F, 0.6F});
+    const auto carried = colorData(QLx::toQColorF(button.getColor()));
+    QLxColorButton other;
+    QVERIFY(sendDrop(&other, carried.get()));
+    QVERIFY(std::abs(other.getColor().hue - 210.0F) < 0.05F);
+    QVERIFY(std::abs(other.getColor().saturation - 0.3F) < 1e-4F);
+    QVERIFY(std::abs(other.getColor().value - 0.6F) < 1e-4F);
+}
+
+void TestColorButton::dropOfOtherDataChangesNothing()
+{
+    QLxColorButton button;
+    SignalLog log;
+    watch(log, &button);
+    QMimeData text;
+    text.setText(QStringLiteral("#ff0000"));
+    const QMimeData *const candidates[] = {&text, nullptr};
+    for (const QMimeData *data : candidates) {
+        QVERIFY(!sendEnter(&button, data));
+        QVERIFY(!sendMove(&button, data));
+        QVERIFY(!sendDrop(&button, data));
+    }
+    COMPARE_LOG(log, {});
+    QVERIFY(button.getColor() == (QLxColor{0, 0, 0.8F}));
+}
+
+void TestColorButton::focusFollowsTheDrag()
+{
+    QWidget window;
+    window.setFocusPolicy(Qt::StrongFocus);
+    QLxColorButton button(&window);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    window.setFocus();
+    QMimeData text;
+    text.setText(QStringLiteral("no colour"));
+    QVERIFY(!sendEnter(&button, &text)); // takes the focus whatever is dragged
+    QVERIFY(button.hasFocus());
+    window.setFocus();
+    QVERIFY(sendEnter(&button, colorData(Qt::red).get()));
+    QVERIFY(button.hasFocus());
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(&button, &leave);
+    QVERIFY(!button.hasFocus());
+    QVERIFY(window.hasFocus());
+
+    QLxColorButton alone;
+    alone.show();
+    QApplication::setActiveWindow(&alone);
+    QVERIFY(QTest::qWaitForWindowActive(&alone));
+    QVERIFY(sendEnter(&alone, colorData(Qt::red).get()));
+    QApplication::sendEvent(&alone, &leave);
+    QVERIFY(alone.hasFocus());
+}
+
+void TestColorButton::multiselect()
+{
+    QLxColorButton button;
+    button.setColor({200, 0.7F, 0.5F});
+    button.resize(62, 16);
+    const auto picture = [&button] {
+        QImage image(button.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        button.render(&image);
+        return image;
+    };
+    QImage expected = picture();
+    QCOMPARE(expected.pixelColor(30, 8), QLx::toQColor(button.getColor()));
+    button.setProperty("multiselect", true);
+    const QImage marked = picture();
+    QVERIFY(marked != expected);
+    QPainter painter(&expected);
+    QLinearGradient gradient(QPointF(0, 0.1), QPointF(0, 0.45));
+    gradient.setColorAt(0, QColor(235, 185, 55, 175));
+    gradient.setColorAt(1, QColor(165, 155, 45, 135));
+    painter.fillRect(expected.rect(), gradient);
+    QCOMPARE(marked, expected);
+    for (int w = 0; w < 15; ++w) {
+        for (int h = 0; h < 15; ++h) {
+            button.resize(w, h);
+            if (w > 0 && h > 0)
+                QVERIFY(!picture().isNull());
+        }
+    }
+}
+
+namespace {
+
+/// The ways in which a button comes to emit, by name.
+struct Emitting
+{
+    const char *name;
+    const char *signal;
+    void (*act)(QLxColorButton *button);
+    bool byClosing = false; // inside the dialog's own accepted() or rejected()
+};
+
+const Emitting emittings[] = {
+    {"click by mouse", SIGNAL(colorButtonClicked()), [](QLxColorButton *b) { click(*b); }},
+    {"click by key", SIGNAL(colorButtonClicked()),
+     [](QLxColorButton *b) { QTest::keyClick(b, Qt::Key_Space); }},
+    {"click by program", SIGNAL(colorButtonClicked()), [](QLxColorButton *b) { b->click(); }},
+    {"base class's clicked", SIGNAL(clicked(bool)), [](QLxColorButton *b) { click(*b); }},
+    {"editing", SIGNAL(temporaryColorChosen(QLxColor)),
+     [](QLxColorButton *b) {
+         click(*b);
+         FakeDialogs::current()->edit({1, 1, 1});
+     }},
+    {"accept", SIGNAL(finalColorChosen(QLxColor)),
+     [](QLxColorButton *b) {
+         click(*b);
+         FakeDialogs::current()->accept();
+     }, true},
+    {"accepted", SIGNAL(userAccepted()),
+     [](QLxColorButton *b) {
+         click(*b);
+         FakeDialogs::current()->accept();
+     }, true},
+    {"reject", SIGNAL(finalColorChosen(QLxColor)),
+     [](QLxColorButton *b) {
+         click(*b);
+         FakeDialogs::current()->reject();
+     }, true},
+    {"rejected", SIGNAL(userSkipped()),
+     [](QLxColorButton *b) {
+         click(*b);
+         FakeDialogs::current()->reject();
+     }, true},
+    {"drop", SIGNAL(finalColorChosen(QLxColor)),
+     [](QLxColorButton *b) { sendDrop(b, colorData(Qt::red).get()); }},
+};
+
+void emittingRows(bool byClosingToo)
+{
+    QTest::addColumn<int>("index");
+    int index = 0;
+    for (const Emitting &emitting : emittings) {
+        if (byClosingToo || !emitting.byClosing)
+            QTest::newRow(emitting.name) << index;
+        ++index;
+    }
+}
+
+/// Deletes an object when told to.
+class Deleter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Deleter(QObject *victim)
+        : m_victim(victim)
+    {
+    }
+
+public Q_SLOTS:
+    void strike() { delete m_victim.data(); }
+
+private:
+    QPointer<QObject> m_victim;
+};
+
+} // namespace
+
+void TestColorButton::deletedInsideAnySignal_data()
+{
+    emittingRows(true);
+}
+
+void TestColorButton::deletedInsideAnySignal()
+{
+    QFETCH(int, index);
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QWidget window; // which keeps the dialog
+    const QPointer<QLxColorButton> button = new QLxColorButton(&window);
+    Deleter deleter(button);
+    QVERIFY(connect(button, emittings[index].signal, &deleter, SLOT(strike())));
+    emittings[index].act(button);
+    QVERIFY(!button);
+    // The next button goes on with the dialog as if nothing had happened.
+    QLxColorButton next(&window);
+    watch(log, &next, "next.");
+    click(next);
+    log.take();
+    dialogs.current()->edit({7, 1, 1});
+    COMPARE_LOG(log, {"next.temporaryColorChosen(hsv 7 1 1)"});
+}
+
+void TestColorButton::moduleDeletedInsideAnySignal_data()
+{
+    // The dialog goes with the module, and QDialog does not survive that inside its accepted().
+    emittingRows(false);
+}
+
+void TestColorButton::moduleDeletedInsideAnySignal()
+{
+    QFETCH(int, index);
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    auto *const module = new QWidget;
+    module->setObjectName(QStringLiteral("Module"));
+    const QPointer<QLxColorButton> button = new QLxColorButton(module);
+    click(*button);
+    QVERIFY(sharedColorDialog);
+    Deleter deleter(module);
+    QVERIFY(connect(button, emittings[index].signal, &deleter, SLOT(strike())));
+    emittings[index].act(button);
+    QVERIFY(!button);
+    QVERIFY(!sharedColorDialog);
+}
+
+QLX_TEST_MAIN(TestColorButton)
+#include "tst_colorbutton.moc"
