@@ -20,6 +20,7 @@ install(FILES ${PROJECT_BINARY_DIR}/packaging/QLxControlsConfig.cmake
               ${PROJECT_BINARY_DIR}/packaging/QLxControlsConfigVersion.cmake
         DESTINATION ${package_dir})
 
+# The prefix is known for certain only when installing: "cmake --install" may be given another one.
 # An absolute directory setting is kept as it is, a relative one follows the prefix.
 foreach(kind LIBDIR INCLUDEDIR)
   if(IS_ABSOLUTE "${CMAKE_INSTALL_${kind}}")
@@ -28,8 +29,8 @@ foreach(kind LIBDIR INCLUDEDIR)
     set(PC_${kind} "\${prefix}/${CMAKE_INSTALL_${kind}}")
   endif()
 endforeach()
+set(PC_PREFIX "@PC_PREFIX@")
 configure_file(packaging/QLxControls.pc.in ${PROJECT_BINARY_DIR}/packaging/QLxControls.pc.in @ONLY)
-# The prefix is known for certain only when installing: "cmake --install" may be given another one.
 install(CODE "
   set(PC_PREFIX \"\${CMAKE_INSTALL_PREFIX}\")
   configure_file(\"${PROJECT_BINARY_DIR}/packaging/QLxControls.pc.in\"

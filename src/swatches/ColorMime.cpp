@@ -32,7 +32,10 @@ void dragColor(QWidget *source, const QLxColor &color)
     auto *const drag = new QDrag(source); // Qt deletes it, and the data with it, once it has ended
     drag->setMimeData(mime);
     drag->setPixmap(swatch);
+    // Qt would go on dragging what its source took along.
+    const auto cancelling = QObject::connect(source, &QObject::destroyed, [] { QDrag::cancel(); });
     drag->exec(Qt::CopyAction);
+    QObject::disconnect(cancelling);
 }
 
 } // namespace QLx

@@ -14,6 +14,15 @@
 
 #include <memory>
 
+namespace {
+
+QString pluginPath()
+{
+    return QStringLiteral(QLX_PLUGIN_ROOT "/designer/libQLxControls.so");
+}
+
+} // namespace
+
 class TestPlugin : public TestCase
 {
     Q_OBJECT
@@ -34,7 +43,7 @@ private:
         return qobject_cast<QDesignerCustomWidgetInterface *>(m_loader.instance());
     }
 
-    QPluginLoader m_loader{QStringLiteral(QLX_PLUGIN_PATH)};
+    QPluginLoader m_loader{pluginPath()};
 };
 
 namespace {
@@ -64,7 +73,7 @@ QT_WARNING_POP
 
 void TestPlugin::metadataOfTheFile()
 {
-    const QPluginLoader unloaded(QStringLiteral(QLX_PLUGIN_PATH));
+    const QPluginLoader unloaded(pluginPath());
     QVERIFY(!unloaded.isLoaded());
     QCOMPARE(unloaded.metaData(), expectedMetadata());
     QCOMPARE(unloaded.metaData().value(QStringLiteral("version")).toInt(), 329989);
@@ -75,7 +84,7 @@ void TestPlugin::metadataBlock()
     QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
     using Query = const char *(*)();
     const auto query = reinterpret_cast<Query>(
-        QLibrary::resolve(QStringLiteral(QLX_PLUGIN_PATH), "qt_plugin_query_metadata"));
+        QLibrary::resolve(pluginPath(), "qt_plugin_query_metadata"));
     QVERIFY(query);
     const QByteArray document = writeBinary(expectedMetadata());
     const QByteArray block(query(), 12 + document.size());
@@ -84,7 +93,7 @@ void TestPlugin::metadataBlock()
     QCOMPARE(readBinary(block.mid(12)), expectedMetadata());
     QCOMPARE(block.mid(12).toHex(), document.toHex()); // laid out as Qt would
 
-    QFile file(QStringLiteral(QLX_PLUGIN_PATH));
+    QFile file(pluginPath());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains(block));
 }
@@ -93,7 +102,7 @@ void TestPlugin::instanceIsOneAndComesBack()
 {
     using Instance = QObject *(*)();
     const auto instance = reinterpret_cast<Instance>(
-        QLibrary::resolve(QStringLiteral(QLX_PLUGIN_PATH), "qt_plugin_instance"));
+        QLibrary::resolve(pluginPath(), "qt_plugin_instance"));
     QVERIFY(instance);
     const QPointer<QObject> first = instance();
     QVERIFY(first);

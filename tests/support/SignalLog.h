@@ -53,7 +53,9 @@ public:
 
     void note(const QString &line) { m_lines.append(line); }
 
-    /// The lines since the last call.
+    /// The lines since the last take().
+    QString text() const { return m_lines.join(QLatin1Char('\n')); }
+    /// The same as a list, for once.
     QStringList take()
     {
         QStringList lines;

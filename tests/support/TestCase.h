@@ -11,11 +11,8 @@ class TestCase : public QObject
 {
     Q_OBJECT
 
-protected:
-    /// Lets warnings that contain text pass in the current test function.
-    static void allowWarning(const QString &text);
-
-private Q_SLOTS:
+protected Q_SLOTS:
+    // A class that has these slots too calls them from its own.
     void init();
     void cleanup();
 };

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_GESTURES_H
+#define GALLERY_GESTURES_H
+
+class QColor;
+class QWidget;
+
+/// What a visitor does with the mouse, sent straight to a widget.
+
+/// Presses the left button, moves in steps and releases; positions are fractions of the widget's width.
+void dragAcross(QWidget &widget, double from, double to, int steps);
+void click(QWidget &widget);
+void dropColor(QWidget &widget, const QColor &color);
+
+#endif

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#include "Pages.h"
+
+#include "SlidersPage.h"
+#include "SwatchesPage.h"
+
+const QVector<Page> &pages()
+{
+    static const QVector<Page> all = {
+        {QStringLiteral("Sliders"), createSlidersPage, demonstrateSlidersPage},
+        {QStringLiteral("Swatches"), createSwatchesPage, demonstrateSwatchesPage},
+    };
+    return all;
+}

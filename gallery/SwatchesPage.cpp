@@ -1,0 +1,208 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#include "SwatchesPage.h"
+
+#include "Gestures.h"
+#include "QLxColorButton.h"
+#include "QLxColorManipulator.h"
+#include "QLxColorSlider.h"
+#include "QLxColorSpaces.h"
+#include "SignalLog.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVariant>
+
+#include <memory>
+
+namespace {
+
+/// The colour that a screen shows for these encoded channels.
+QLxColor fromEncoded(QRgb rgb)
+{
+    const auto channel = [](int level) { return QLx::srgbToLinear(static_cast<float>(level) / 255.0F); };
+    return QLx::rgbToHsv(channel(qRed(rgb)), channel(qGreen(rgb)), channel(qBlue(rgb)));
+}
+
+QString number(float value, int decimals)
+{
+    return QString::number(static_cast<double>(value), 'f', decimals);
+}
+
+QString call(const char *signal, const QString &arguments = {})
+{
+    return QStringLiteral("%1(%2)").arg(QLatin1String(signal), arguments);
+}
+
+QString call(const char *signal, const QLxColor &c)
+{
+    return call(signal, QStringLiteral("QLxColor{%1, %2, %3}")
+                            .arg(number(c.hue, 2), number(c.saturation, 4), number(c.value, 4)));
+}
+
+QString call(const char *signal, int red, int green, int blue)
+{
+    return call(signal, QStringLiteral("int %1, %2, %3").arg(red).arg(green).arg(blue));
+}
+
+QString call(const char *signal, float red, float green, float blue)
+{
+    return call(signal,
+                QStringLiteral("float %1, %2, %3").arg(number(red, 4), number(green, 4), number(blue, 4)));
+}
+
+/// Logs one signal of the sender, under the sender's object name.
+template <typename... Arguments, typename Sender>
+void watch(Sender *sender, void (Sender::*signal)(Arguments...), const char *name, SignalLog *log)
+{
+    QObject::connect(sender, signal, log, [=](Arguments... arguments) {
+        log->add(sender->objectName(), call(name, arguments...));
+    });
+}
+
+void watch(QLxColorButton *button, SignalLog *log)
+{
+    watch(button, &QLxColorButton::colorButtonClicked, "colorButtonClicked", log);
+    watch(button, &QLxColorButton::temporaryColorChosen, "temporaryColorChosen", log);
+    watch(button, &QLxColorButton::finalColorChosen, "finalColorChosen", log);
+    watch(button, &QLxColorButton::userSkipped, "userSkipped", log);
+    watch(button, &QLxColorButton::userAccepted, "userAccepted", log);
+}
+
+void watch(QLxColorManipulator *manipulator, SignalLog *log)
+{
+    using M = QLxColorManipulator;
+    watch(manipulator, &M::buttonPressed, "buttonPressed", log);
+    watch(manipulator, &M::sliderPressed, "sliderPressed", log);
+    watch(manipulator, &M::sliderReleased, "sliderReleased", log);
+    watch(manipulator, &M::sliderColorChanged, "sliderColorChanged", log);
+    watch(manipulator, QOverload<>::of(&M::colorChanged), "colorChanged", log);
+    watch(manipulator, QOverload<QLxColor>::of(&M::colorChanged), "colorChanged", log);
+    watch(manipulator, QOverload<int, int, int>::of(&M::colorChanged), "colorChanged", log);
+    watch(manipulator, QOverload<float, float, float>::of(&M::colorChanged), "colorChanged", log);
+    watch(manipulator, QOverload<>::of(&M::dialogColorChanged), "dialogColorChanged", log);
+    watch(manipulator, QOverload<QLxColor>::of(&M::dialogColorChanged), "dialogColorChanged", log);
+    watch(manipulator, QOverload<int, int, int>::of(&M::dialogColorChanged), "dialogColorChanged", log);
+    watch(manipulator, QOverload<float, float, float>::of(&M::dialogColorChanged), "dialogColorChanged", log);
+    watch(manipulator, &M::finalColorSet, "finalColorSet", log);
+    watch(manipulator, &M::cancelled, "cancelled", log);
+}
+
+constexpr QSize SwatchSize(48, 32);
+
+QLxColorButton *makeSwatch(const QString &name, QRgb color, SignalLog *log)
+{
+    auto *const swatch = new QLxColorButton;
+    swatch->setObjectName(name);
+    swatch->setToolTip(name);
+    swatch->setColor(fromEncoded(color));
+    swatch->setShowColorDialog(false);
+    swatch->setFixedSize(SwatchSize);
+    watch(swatch, log);
+    return swatch;
+}
+
+QGroupBox *makeSwatches(SignalLog *log)
+{
+    struct Named
+    {
+        const char *name;
+        QRgb color;
+    };
+    constexpr Named colors[] = {{"Red", 0xd64550},    {"Orange", 0xee8b3a}, {"Yellow", 0xf2c84b},
+                                {"Green", 0x5fa854},  {"Teal", 0x2f9c95},   {"Blue", 0x3a7bc8},
+                                {"Violet", 0x7d5ba6}, {"Grey", 0x8a8f98}};
+    constexpr Named marked[] = {{"Marked pink", 0xd9769f}, {"Marked cyan", 0x62b6cb}};
+    constexpr int columns = 4;
+
+    auto *const box = new QGroupBox(QStringLiteral("Colour buttons"));
+    auto *const grid = new QGridLayout(box);
+    grid->addWidget(new QLabel(QStringLiteral("Drag a colour from one swatch to another.")), 0, 0, 1,
+                    columns + 1);
+    grid->setHorizontalSpacing(20);
+    grid->setVerticalSpacing(8);
+    int i = 0;
+    for (const Named &color : colors) {
+        grid->addWidget(makeSwatch(QLatin1String(color.name), color.color, log), 1 + i / columns,
+                        i % columns);
+        ++i;
+    }
+    i = 0;
+    for (const Named &color : marked) {
+        QLxColorButton *const swatch = makeSwatch(QLatin1String(color.name), color.color, log);
+        swatch->setProperty("multiselect", true);
+        grid->addWidget(swatch, 3, i++);
+    }
+    grid->addWidget(new QLabel(QStringLiteral("\u201cmultiselect\u201d is set")), 3, 2, 1, columns - 1);
+    grid->setColumnStretch(columns, 1);
+    return box;
+}
+
+QLxColorManipulator *makeManipulator(const char *name, SignalLog *log)
+{
+    auto *const manipulator = new QLxColorManipulator(nullptr, name);
+    watch(manipulator, log);
+    return manipulator;
+}
+
+/// Gives the manipulator a colour as a drop on its button does.
+void setColor(QLxColorManipulator *manipulator, const QLxColor &color)
+{
+    const QSignalBlocker blocker(manipulator);
+    manipulator->findChild<QLxColorButton *>()->setColor(color);
+    manipulator->finalColorChanged(color);
+}
+
+QGroupBox *makeManipulators(SignalLog *log)
+{
+    auto *const box = new QGroupBox(QStringLiteral("Colour manipulators"));
+    auto *const grid = new QGridLayout(box);
+    grid->setVerticalSpacing(8);
+    grid->addWidget(new QLabel(QStringLiteral("Move a slider, or drop a swatch on a button.")), 0, 0, 1, 2);
+    QLxColorManipulator *const fresh = makeManipulator("Manipulator 1", log);
+    QLxColorManipulator *const warm = makeManipulator("Manipulator 2", log);
+    QLxColorManipulator *const cold = makeManipulator("Manipulator 3", log);
+    setColor(warm, fromEncoded(0xc8793a));
+    setColor(cold, fromEncoded(0x3a7bc8));
+    int line = 1;
+    for (QLxColorManipulator *manipulator : {fresh, warm, cold}) {
+        manipulator->setFixedHeight(manipulator->sizeHint().height());
+        grid->setRowMinimumHeight(line, SwatchSize.height());
+        grid->addWidget(new QLabel(manipulator->objectName()), line, 0);
+        grid->addWidget(manipulator, line++, 1);
+    }
+    grid->setColumnStretch(1, 1);
+    return box;
+}
+
+} // namespace
+
+QWidget *createSwatchesPage()
+{
+    auto page = std::make_unique<QWidget>();
+    auto *const log = new SignalLog;
+    auto *const grid = new QGridLayout(page.get());
+    grid->setContentsMargins(14, 12, 14, 14);
+    grid->setSpacing(14);
+    grid->addWidget(makeSwatches(log), 0, 0);
+    grid->addWidget(makeManipulators(log), 0, 1);
+    grid->addWidget(log, 1, 0, 1, 2);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(1, 1);
+    return page.release();
+}
+
+void demonstrateSwatchesPage(QWidget &page)
+{
+    const auto swatch = [&](const char *name) {
+        return page.findChild<QLxColorButton *>(QLatin1String(name));
+    };
+    const auto *const first = page.findChild<QWidget *>(QStringLiteral("Manipulator 1"));
+    const auto *const second = page.findChild<QWidget *>(QStringLiteral("Manipulator 2"));
+    click(*swatch("Teal"));
+    dropColor(*first->findChild<QLxColorButton *>(), QLx::toQColorF(swatch("Violet")->getColor()));
+    dragAcross(*second->findChild<QLxColorSlider *>(), 0.9, 0.7, 1);
+    dropColor(*swatch("Grey"), QLx::toQColorF(second->findChild<QLxColorButton *>()->getColor()));
+}
