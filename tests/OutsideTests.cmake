@@ -28,7 +28,8 @@ add_test(NAME exports
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/install/exports.sh ${prefix}/${CMAKE_INSTALL_LIBDIR}/libQLxControls.so)
 add_test(NAME designer_to_application
   COMMAND ${on_xvfb} ${CMAKE_CURRENT_SOURCE_DIR}/desktop/designer-to-application.sh
-          ${prefix} ${PROJECT_SOURCE_DIR}/examples/designer-form ${PROJECT_BINARY_DIR}/tests/designer_form)
+          ${prefix} ${PROJECT_SOURCE_DIR}/scripts/empty-form.ui
+          ${PROJECT_SOURCE_DIR}/examples/designer-form ${PROJECT_BINARY_DIR}/tests/designer_form)
 set_tests_properties(designer_to_application PROPERTIES
   RESOURCE_LOCK display SKIP_RETURN_CODE 77 TIMEOUT 300)
 set_tests_properties(consumer pkgconfig exports designer_to_application PROPERTIES
@@ -38,10 +39,10 @@ foreach(compiler g++ clang++)
   string(MAKE_C_IDENTIFIER ${compiler} id)
   find_program(QLX_COMPILER_${id} ${compiler})
   if(NOT QLX_COMPILER_${id})
-    if(DEFINED ENV{CI})
-      message(FATAL_ERROR "${compiler} is not installed: the conversions must be tested with it")
-    endif()
-    message(STATUS "${compiler} is not installed: the conversions are not tested with it")
+    # Skipped with a message, but not in CI.
+    add_test(NAME bits_${compiler} COMMAND sh -c
+      "echo '${compiler} is not installed: nothing was tested with it'; test -z \"$CI\" && exit 77; exit 1")
+    set_tests_properties(bits_${compiler} PROPERTIES SKIP_RETURN_CODE 77)
     continue()
   endif()
   foreach(level O0 O3)

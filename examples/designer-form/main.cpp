@@ -20,9 +20,8 @@ int main(int argc, char **argv)
     const QLxColorManipulator *const tint = form.qLxColorManipulator;
     using M = QLxColorManipulator;
     QObject::connect(tint, &M::sliderPressed, [&] { out << "slider pressed" << Qt::endl; });
-    QObject::connect(tint, QOverload<int, int, int>::of(&M::colorChanged), [&](int r, int g, int b) {
-        out << "colour " << r << ' ' << g << ' ' << b << Qt::endl;
-    });
+    QObject::connect(tint, QOverload<int, int, int>::of(&M::colorChanged),
+                     [&](int r, int g, int b) { out << "colour " << r << ' ' << g << ' ' << b << Qt::endl; });
     QObject::connect(tint, &M::sliderReleased, [&] { out << "slider released" << Qt::endl; });
     QObject::connect(tint, &M::finalColorSet, [&](QLxColor color) {
         out << "final colour: hue " << color.hue << ", saturation " << color.saturation << ", value "

@@ -131,8 +131,7 @@ inline Rgb labToRgb(const Lab &c)
     const float x = WhiteX * labCurveInverse(fx);
     const float y = WhiteY * labCurveInverse(fy);
     const float z = WhiteZ * labCurveInverse(fz);
-    return {3.2404542F * x - 1.5371385F * y - 0.4985314F * z,
-            -0.969266F * x + 1.8760108F * y + 0.041556F * z,
+    return {3.2404542F * x - 1.5371385F * y - 0.4985314F * z, -0.969266F * x + 1.8760108F * y + 0.041556F * z,
             0.0556434F * x - 0.2040259F * y + 1.0572252F * z};
 }
 

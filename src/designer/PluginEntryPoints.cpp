@@ -14,23 +14,50 @@ namespace {
 // library loaded already asks qt_plugin_query_metadata().
 [[gnu::section(".qtmetadata"), gnu::used]] const char pluginMetadata[] =
     "QTMETADATA  "
-    "qbjs" "\x01\0\0\0"                                        // document version 1
-    "\xb0\0\0\0" "\x0b\0\0\0" "\x9c\0\0\0"                     // object of 176 bytes, 5 keys, table at 156
+    "qbjs"
+    "\x01\0\0\0" // document version 1
+    "\xb0\0\0\0"
+    "\x0b\0\0\0"
+    "\x9c\0\0\0" // object of 176 bytes, 5 keys, table at 156
     // 12: "IID", a string at 24
-    "\x1b\x03\0\0" "\x03\0" "IID" "\0\0\0"
-    "\x1e\0" "QDesignerCustomWidgetInterface"
+    "\x1b\x03\0\0"
+    "\x03\0"
+    "IID"
+    "\0\0\0"
+    "\x1e\0"
+    "QDesignerCustomWidgetInterface"
     // 56: "MetaData", an empty object at 72
-    "\x15\x09\0\0" "\x08\0" "MetaData" "\0\0"
-    "\x0c\0\0\0" "\x01\0\0\0" "\0\0\0\0"
+    "\x15\x09\0\0"
+    "\x08\0"
+    "MetaData"
+    "\0\0"
+    "\x0c\0\0\0"
+    "\x01\0\0\0"
+    "\0\0\0\0"
     // 84: "className", a string at 100
-    "\x9b\x0c\0\0" "\x09\0" "className" "\0"
-    "\x19\0" "QLxColorManipulatorPlugin" "\0"
+    "\x9b\x0c\0\0"
+    "\x09\0"
+    "className"
+    "\0"
+    "\x19\0"
+    "QLxColorManipulatorPlugin"
+    "\0"
     // 128: "debug", false
-    "\x11\0\0\0" "\x05\0" "debug" "\0"
+    "\x11\0\0\0"
+    "\x05\0"
+    "debug"
+    "\0"
     // 140: "version", the number 329989 (0x050905, Qt 5.9.5) in the upper 27 bits
-    "\xba\x20\xa1\0" "\x07\0" "version" "\0\0\0"
+    "\xba\x20\xa1\0"
+    "\x07\0"
+    "version"
+    "\0\0\0"
     // 156: where the five keys are
-    "\x0c\0\0\0" "\x38\0\0\0" "\x54\0\0\0" "\x80\0\0\0" "\x8c\0\0";
+    "\x0c\0\0\0"
+    "\x38\0\0\0"
+    "\x54\0\0\0"
+    "\x80\0\0\0"
+    "\x8c\0\0";
 
 } // namespace
 

@@ -80,7 +80,9 @@ void QLxColorSlider::storeReferenceColor(QLxColor &stored, const QLxColor &color
     if (stored == color)
         return;
     stored = color;
-    whileAlive(this, [&] { Q_EMIT(this->*changed)(color); }, [this] { repaint(); });
+    whileAlive(
+        this, [&] { Q_EMIT(this->*changed)
+                    (color); }, [this] { repaint(); });
 }
 
 void QLxColorSlider::setMinColor(QLxColor color)

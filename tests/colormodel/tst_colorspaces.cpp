@@ -176,12 +176,11 @@ void TestColorSpaces::everyOperationEqualsTheReference()
             break;
         }
         const char *difference = firstDifference(c);
-        QVERIFY2(!difference,
-                 qPrintable(QStringLiteral("%1 differs for hsv %2 %3 %4")
-                                .arg(QLatin1String(difference))
-                                .arg(double(c.hue), 0, 'g', 9)
-                                .arg(double(c.saturation), 0, 'g', 9)
-                                .arg(double(c.value), 0, 'g', 9)));
+        QVERIFY2(!difference, qPrintable(QStringLiteral("%1 differs for hsv %2 %3 %4")
+                                             .arg(QLatin1String(difference))
+                                             .arg(double(c.hue), 0, 'g', 9)
+                                             .arg(double(c.saturation), 0, 'g', 9)
+                                             .arg(double(c.value), 0, 'g', 9)));
     }
     QLx::colorUseGamma = true;
 }

@@ -55,8 +55,7 @@ void TestSrgbQuantizer::isExactAroundEveryStep()
     for (int level = 1; level < 256; ++level) {
         // The exact inverse of the curve gives the neighbourhood in which the step must lie.
         const double encoded = level / 255.0;
-        const double linear =
-            encoded <= 0.04045 ? encoded / 12.92 : std::pow((encoded + 0.055) / 1.055, 2.4);
+        const double linear = encoded <= 0.04045 ? encoded / 12.92 : std::pow((encoded + 0.055) / 1.055, 2.4);
         auto x = static_cast<float>(linear * 0.99999);
         QCOMPARE(encode(x), level - 1);
         for (; static_cast<double>(x) < linear * 1.00001; x = std::nextafter(x, 2.0F)) {

@@ -121,10 +121,10 @@ void TestColorManipulator::sliderDrag()
     };
     const LogLine asHsv = QStringLiteral("colorChanged(hsv 0 0 %1)").arg(grey);
     pointer.press({75, 3});
-    COMPARE_LOG(log, {"sliderPressed()", "colorChanged()", asHsv,
-                      threeTimes(QStringLiteral("colorChanged float"), grey),
-                      "colorChanged int(133, 133, 133)",
-                      threeTimes(QStringLiteral("sliderColorChanged"), grey)});
+    COMPARE_LOG(log,
+                {"sliderPressed()", "colorChanged()", asHsv,
+                 threeTimes(QStringLiteral("colorChanged float"), grey), "colorChanged int(133, 133, 133)",
+                 threeTimes(QStringLiteral("sliderColorChanged"), grey)});
     QCOMPARE(asText(parts.button->getColor()), QStringLiteral("hsv 0 0 ") + grey);
     pointer.move({50, 3});
     const QString half = QStringLiteral("0.214041144");
@@ -267,7 +267,8 @@ void TestColorManipulator::deletedInsideAnySignal_data()
     {
         const char *name;
         int emissions;
-    } acts[] = {{"press", 6}, {"move", 5}, {"release", 2}, {"dialog", 8}, {"final", 5}, {"cancel", 1}, {"click", 1}};
+    } acts[] = {{"press", 6}, {"move", 5},   {"release", 2}, {"dialog", 8},
+                {"final", 5}, {"cancel", 1}, {"click", 1}};
     for (int act = 0; act < 7; ++act) {
         for (int nth = 0; nth < acts[act].emissions; ++nth)
             QTest::addRow("%s, emission %d", acts[act].name, nth) << act << nth;
@@ -303,7 +304,8 @@ void TestColorManipulator::deletedInsideAnySignal()
     QObject::connect(manipulator, QOverload<>::of(&M::dialogColorChanged), &context, count);
     QObject::connect(manipulator, QOverload<QLxColor>::of(&M::dialogColorChanged), &context, count);
     QObject::connect(manipulator, QOverload<int, int, int>::of(&M::dialogColorChanged), &context, count);
-    QObject::connect(manipulator, QOverload<float, float, float>::of(&M::dialogColorChanged), &context, count);
+    QObject::connect(manipulator, QOverload<float, float, float>::of(&M::dialogColorChanged), &context,
+                     count);
     QObject::connect(manipulator, &M::finalColorSet, &context, count);
     QObject::connect(manipulator, &M::cancelled, &context, count);
 

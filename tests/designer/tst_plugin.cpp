@@ -59,7 +59,8 @@ QJsonObject expectedMetadata()
 
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // the block is in this deprecated form
-QJsonObject readBinary(const QByteArray &document)
+    QJsonObject
+    readBinary(const QByteArray &document)
 {
     return QJsonDocument::fromBinaryData(document).object();
 }
@@ -83,8 +84,7 @@ void TestPlugin::metadataBlock()
 {
     QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
     using Query = const char *(*)();
-    const auto query = reinterpret_cast<Query>(
-        QLibrary::resolve(pluginPath(), "qt_plugin_query_metadata"));
+    const auto query = reinterpret_cast<Query>(QLibrary::resolve(pluginPath(), "qt_plugin_query_metadata"));
     QVERIFY(query);
     const QByteArray document = writeBinary(expectedMetadata());
     const QByteArray block(query(), 12 + document.size());
@@ -101,8 +101,7 @@ void TestPlugin::metadataBlock()
 void TestPlugin::instanceIsOneAndComesBack()
 {
     using Instance = QObject *(*)();
-    const auto instance = reinterpret_cast<Instance>(
-        QLibrary::resolve(pluginPath(), "qt_plugin_instance"));
+    const auto instance = reinterpret_cast<Instance>(QLibrary::resolve(pluginPath(), "qt_plugin_instance"));
     QVERIFY(instance);
     const QPointer<QObject> first = instance();
     QVERIFY(first);

@@ -2,13 +2,14 @@
 # SPDX-FileCopyrightText: 2026 QLx Controls contributors
 # SPDX-License-Identifier: MIT
 #
-# designer-to-application.sh PREFIX EXAMPLE-SOURCE WORK-FOLDER: the whole way of a form, by mouse and
+# designer-to-application.sh PREFIX EMPTY-FORM EXAMPLE-SOURCE WORK-FOLDER: the whole way of a form, by mouse and
 # keyboard. Qt Designer loads the installed library, the manipulator is dragged from its widget box onto
 # an empty form and saved; the example application is built from that form, and its slider is dragged.
 set -euo pipefail
 prefix=$1
-example=$2
-work=$3
+form=$2
+example=$3
+work=$4
 rm -rf "$work"
 mkdir -p "$work"
 cd "$work"
@@ -37,15 +38,7 @@ drag() { # FROM-X FROM-Y TO-X TO-Y
     xdotool mouseup 1
 }
 
-cat > form.ui <<'EOF'
-<?xml version="1.0" encoding="UTF-8"?>
-<ui version="4.0">
- <class>Form</class>
- <widget class="QWidget" name="Form">
-  <property name="geometry"><rect><x>0</x><y>0</y><width>400</width><height>300</height></rect></property>
- </widget>
-</ui>
-EOF
+cp "$form" form.ui
 plugins=$(cd "$prefix"/lib*/qt5/plugins 2> /dev/null || cd "$prefix"/lib/*/qt5/plugins && pwd)
 designer=$(pkg-config --variable=host_bins Qt5Core)/designer
 QT_PLUGIN_PATH=$plugins "$designer" -style fusion form.ui 2> designer.log &

@@ -93,8 +93,8 @@ QString TestDesktopDrag::smoothly(const QWidget *from, const QWidget *to)
 
 void TestDesktopDrag::dropOnAnotherSwatch()
 {
-    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second)
-            + QStringLiteral("sleep 0.05 mouseup 1"));
+    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second) +
+            QStringLiteral("sleep 0.05 mouseup 1"));
     const QLxColor half{120, 1, static_cast<float>(QColor::fromRgbF(0, 0.5, 0).greenF())};
     QTRY_COMPARE(asText(m_second->getColor()), asText(half));
     COMPARE_LOG(m_log, {LogLine(QStringLiteral("second.finalColorChosen(%1)").arg(asText(half)))});
@@ -108,8 +108,8 @@ void TestDesktopDrag::dropOnAnotherSwatch()
 
 void TestDesktopDrag::dropOnItself()
 {
-    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second)
-            + smoothly(m_second, m_first) + QStringLiteral("sleep 0.05 mouseup 1"));
+    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second) +
+            smoothly(m_second, m_first) + QStringLiteral("sleep 0.05 mouseup 1"));
     QTRY_VERIFY(m_log.text().startsWith(QStringLiteral("first.finalColorChosen("))); // not clicked
     QCOMPARE(m_log.take().size(), 1);
     QVERIFY(m_second->getColor() == (QLxColor{0, 0, 0.8F}));
@@ -117,8 +117,8 @@ void TestDesktopDrag::dropOnItself()
 
 void TestDesktopDrag::escapeEndsTheDrag()
 {
-    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second)
-            + QStringLiteral("key Escape sleep 0.05 mouseup 1"));
+    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second) +
+            QStringLiteral("key Escape sleep 0.05 mouseup 1"));
     pointer(at(m_second) + QStringLiteral("click 1"));
     QTRY_COMPARE(m_log.text(), QStringLiteral("second.colorButtonClicked()"));
     QVERIFY(m_second->getColor() == (QLxColor{0, 0, 0.8F}));
@@ -127,8 +127,8 @@ void TestDesktopDrag::escapeEndsTheDrag()
 void TestDesktopDrag::sourceDeletedWhileDragged()
 {
     QTimer::singleShot(150, m_first, [this] { delete m_first; });
-    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second)
-            + QStringLiteral("sleep 0.05 mouseup 1"));
+    pointer(at(m_first) + QStringLiteral("mousedown 1 ") + smoothly(m_first, m_second) +
+            QStringLiteral("sleep 0.05 mouseup 1"));
     QVERIFY(!m_first);
     // The other swatch works on.
     m_log.take();

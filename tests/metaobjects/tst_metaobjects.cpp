@@ -109,10 +109,11 @@ QString propertiesOf(const QMetaObject *meta)
     QString text;
     for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
-        text += QString::fromLatin1(property.typeName()) + QLatin1Char(' ') + QString::fromLatin1(property.name())
-            + (property.isReadable() ? QStringLiteral(" READ") : QString())
-            + (property.isWritable() ? QStringLiteral(" WRITE") : QString())
-            + (property.hasNotifySignal() ? QStringLiteral(" NOTIFY") : QString()) + QLatin1Char('\n');
+        text += QString::fromLatin1(property.typeName()) + QLatin1Char(' ') +
+                QString::fromLatin1(property.name()) +
+                (property.isReadable() ? QStringLiteral(" READ") : QString()) +
+                (property.isWritable() ? QStringLiteral(" WRITE") : QString()) +
+                (property.hasNotifySignal() ? QStringLiteral(" NOTIFY") : QString()) + QLatin1Char('\n');
     }
     return text;
 }

@@ -123,9 +123,14 @@ QString difference(QLxColorSlider &slider, const Look &look = {})
         for (int x = 0; x < expected.width(); ++x) {
             if (actual.pixel(x, y) != expected.pixel(x, y))
                 return QStringLiteral("%1x%2, mode %3, value %4: pixel (%5, %6) is %7, not %8")
-                    .arg(slider.width()).arg(slider.height()).arg(int(slider.getMode()))
-                    .arg(double(slider.getValue())).arg(x).arg(y)
-                    .arg(actual.pixel(x, y), 8, 16).arg(expected.pixel(x, y), 8, 16);
+                    .arg(slider.width())
+                    .arg(slider.height())
+                    .arg(int(slider.getMode()))
+                    .arg(double(slider.getValue()))
+                    .arg(x)
+                    .arg(y)
+                    .arg(actual.pixel(x, y), 8, 16)
+                    .arg(expected.pixel(x, y), 8, 16);
         }
     }
     return {};
@@ -143,8 +148,8 @@ QPalette motley()
     QPalette palette;
     int step = 0;
     for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        for (auto role : {QPalette::Button, QPalette::Light, QPalette::Midlight, QPalette::Shadow,
-                          QPalette::Highlight}) {
+        for (auto role :
+             {QPalette::Button, QPalette::Light, QPalette::Midlight, QPalette::Shadow, QPalette::Highlight}) {
             ++step;
             palette.setColor(group, role, QColor(step * 17 % 256, step * 91 % 256, step * 53 % 256));
         }
@@ -194,7 +199,8 @@ void TestColorSliderPicture::everyMode()
     slider.setMode(static_cast<QLxColorSlider::Mode>(mode));
     Look look;
     look.enabled = enabled;
-    const QLxColor references[] = {{0, 0, 1}, {0, 0, 0}, {210, 0.6F, 0.8F}, {359.99F, 1, 0.5F}, {-20, 1.5F, 2}};
+    const QLxColor references[] = {
+        {0, 0, 1}, {0, 0, 0}, {210, 0.6F, 0.8F}, {359.99F, 1, 0.5F}, {-20, 1.5F, 2}};
     for (const QSize &size : {QSize(62, 16), QSize(400, 20), QSize(131, 37), QSize(2000, 40)}) {
         slider.resize(size);
         for (const QLxColor &reference : references) {
@@ -285,7 +291,8 @@ void TestColorSliderPicture::multiselect()
         slider.setProperty("multiselect", on);
         VERIFY_SAME(slider, {true, true, {}});
     }
-    for (const QVariant &off : {QVariant(false), QVariant(0), QVariant(QStringLiteral("false")), QVariant()}) {
+    for (const QVariant &off :
+         {QVariant(false), QVariant(0), QVariant(QStringLiteral("false")), QVariant()}) {
         slider.setProperty("multiselect", off);
         VERIFY_SAME(slider, {true, false, {}});
     }
@@ -299,7 +306,8 @@ void TestColorSliderPicture::colorsThatAreNone()
     for (int mode = 0; mode < 9; ++mode) {
         slider.setMode(static_cast<QLxColorSlider::Mode>(mode));
         for (float bad : {Nan, infinity, -infinity, 1e30F}) {
-            for (const QLxColor &reference : {QLxColor{bad, 1, 1}, QLxColor{0, bad, 1}, QLxColor{0, 1, bad}}) {
+            for (const QLxColor &reference :
+                 {QLxColor{bad, 1, 1}, QLxColor{0, bad, 1}, QLxColor{0, 1, bad}}) {
                 slider.setMaxColor(reference);
                 VERIFY_SAME(slider);
             }

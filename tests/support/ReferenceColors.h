@@ -19,7 +19,10 @@ namespace Reference {
 class F
 {
 public:
-    F(float x = 0.0F) : m_x(x) {}
+    F(float x = 0.0F)
+        : m_x(x)
+    {
+    }
     operator float() const { return m_x; }
     friend F operator+(F a, F b) { return round(double(a.m_x) + double(b.m_x)); }
     friend F operator-(F a, F b) { return round(double(a.m_x) - double(b.m_x)); }
@@ -101,7 +104,8 @@ inline Triple rgbToLab(const Triple &rgb)
     static constexpr float white[3] = {0.9504559636116028F, 1.0F, 1.0890578031539917F};
     F curve[3];
     for (int i = 0; i < 3; ++i) {
-        const F u = (matrix[i][0] * F(rgb[0]) + matrix[i][1] * F(rgb[1]) + matrix[i][2] * F(rgb[2])) / white[i];
+        const F u =
+            (matrix[i][0] * F(rgb[0]) + matrix[i][1] * F(rgb[1]) + matrix[i][2] * F(rgb[2])) / white[i];
         curve[i] = u > 0.008856452F ? power(u, 0.33333334F) : 7.7870374F * u + 0.13793103F;
     }
     return {116.0F * curve[1] - 16.0F, 500.0F * (curve[0] - curve[1]), 200.0F * (curve[1] - curve[2])};

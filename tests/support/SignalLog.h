@@ -29,8 +29,8 @@ inline QString asText(const QString &x)
 }
 inline QString asText(const QLxColor &c)
 {
-    return QStringLiteral("hsv ") + asText(c.hue) + QLatin1Char(' ') + asText(c.saturation) + QLatin1Char(' ')
-        + asText(c.value);
+    return QStringLiteral("hsv ") + asText(c.hue) + QLatin1Char(' ') + asText(c.saturation) +
+           QLatin1Char(' ') + asText(c.value);
 }
 
 /// One ordered log of all signals of all senders that it watches: a line for each emission, "name(payload)".

@@ -213,7 +213,8 @@ void TestColorButton::clickOpensSharedDialog()
     COMPARE_LOG(log, {"temporaryColorChosen(hsv 10 1 1)"});
     QVERIFY(button.getColor() == (QLxColor{-30.0F, 0.5F, 0.5F}));
     dialogs.current()->accept();
-    COMPARE_LOG(log, {"dialog: hidden", "dialog: flag true", "finalColorChosen(hsv 10 1 1)", "userAccepted()"});
+    COMPARE_LOG(log,
+                {"dialog: hidden", "dialog: flag true", "finalColorChosen(hsv 10 1 1)", "userAccepted()"});
     QVERIFY(button.getColor() == (QLxColor{10, 1, 1}));
     QCOMPARE(button.styleSheet(), look(254, 113, 0));
 
@@ -241,9 +242,9 @@ void TestColorButton::twoButtonsInTurn()
     int outsiders = 0;
     click(first);
     QObject::connect(dialogs.current(), &QDialog::accepted, log.context(), [&] { ++outsiders; });
-    COMPARE_LOG(log, {"first.colorButtonClicked()", "dialog: made for hsv 60 1 1 in window",
-                      "dialog: flag true", "dialog: shown",
-                      "dialog: setColor hsv 60 1 1, visible true, signals blocked true"});
+    COMPARE_LOG(log,
+                {"first.colorButtonClicked()", "dialog: made for hsv 60 1 1 in window", "dialog: flag true",
+                 "dialog: shown", "dialog: setColor hsv 60 1 1, visible true, signals blocked true"});
     const FakeDialog *const dialog = dialogs.current();
     click(second);
     COMPARE_LOG(log, {"second.colorButtonClicked()", "dialog: flag true",
@@ -328,12 +329,12 @@ void TestColorButton::dialogGoneWithItsParent()
     QVERIFY(!sharedColorDialog);
     log.take();
     click(survivor);
-    COMPARE_LOG(log, {"survivor.colorButtonClicked()",
-                      LogLine(QStringLiteral("dialog: made for hsv 0 0 %1 in QLxColorButton")
-                                  .arg(asText(0.8F))),
-                      "dialog: flag true", "dialog: shown",
-                      LogLine(QStringLiteral("dialog: setColor hsv 0 0 %1, visible true, signals blocked true")
-                                  .arg(asText(0.8F)))});
+    COMPARE_LOG(log,
+                {"survivor.colorButtonClicked()",
+                 LogLine(QStringLiteral("dialog: made for hsv 0 0 %1 in QLxColorButton").arg(asText(0.8F))),
+                 "dialog: flag true", "dialog: shown",
+                 LogLine(QStringLiteral("dialog: setColor hsv 0 0 %1, visible true, signals blocked true")
+                             .arg(asText(0.8F)))});
 }
 
 void TestColorButton::destructorHidesDialog()
@@ -534,22 +535,26 @@ const Emitting emittings[] = {
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->accept();
-     }, true},
+     },
+     true},
     {"accepted", SIGNAL(userAccepted()),
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->accept();
-     }, true},
+     },
+     true},
     {"reject", SIGNAL(finalColorChosen(QLxColor)),
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->reject();
-     }, true},
+     },
+     true},
     {"rejected", SIGNAL(userSkipped()),
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->reject();
-     }, true},
+     },
+     true},
     {"drop", SIGNAL(finalColorChosen(QLxColor)),
      [](QLxColorButton *b) { sendDrop(b, colorData(Qt::red).get()); }},
 };

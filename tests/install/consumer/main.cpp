@@ -56,10 +56,10 @@ int main(int argc, char **argv)
     QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, origin + QPoint(25, 0));
     const QString quarter = asText(QLx::srgbToLinear(0.25F));
     const QString grey = QStringLiteral("(%1, %1, %1)").arg(quarter);
-    if (!logged(log, {"sliderPressed()", "colorChanged()",
-                      QStringLiteral("colorChanged(hsv 0 0 %1)").arg(quarter),
-                      QStringLiteral("colorChanged") + grey, "colorChanged(12, 12, 12)",
-                      QStringLiteral("sliderColorChanged") + grey}))
+    if (!logged(log,
+                {"sliderPressed()", "colorChanged()", QStringLiteral("colorChanged(hsv 0 0 %1)").arg(quarter),
+                 QStringLiteral("colorChanged") + grey, "colorChanged(12, 12, 12)",
+                 QStringLiteral("sliderColorChanged") + grey}))
         return 1;
     QTest::mouseMove(handle, origin + QPoint(500, 0));
     if (!logged(log, {"colorChanged()", "colorChanged(hsv 0 0 1)", "colorChanged(1, 1, 1)",

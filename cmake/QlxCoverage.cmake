@@ -1,0 +1,15 @@
+# SPDX-FileCopyrightText: 2026 QLx Controls contributors
+# SPDX-License-Identifier: MIT
+#
+# coverage-report: runs the tests, prints the line coverage of src/, and fails below 95 %.
+
+find_program(QLX_GCOVR gcovr REQUIRED)
+add_custom_target(coverage-report
+  COMMAND find ${PROJECT_BINARY_DIR} -name "*.gcda" -delete
+  COMMAND ${CMAKE_CTEST_COMMAND} --output-on-failure --no-tests=error
+  COMMAND ${QLX_GCOVR} --root ${PROJECT_SOURCE_DIR} --filter src/ --exclude-unreachable-branches
+          --fail-under-line 95 --print-summary --output ${PROJECT_BINARY_DIR}/coverage.txt
+          ${PROJECT_BINARY_DIR}
+  COMMAND ${CMAKE_COMMAND} -E cat ${PROJECT_BINARY_DIR}/coverage.txt
+  WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
+  VERBATIM)
