@@ -64,7 +64,7 @@ QString renderPages(const QString &directory)
                 QStringLiteral("%1-%2.png")
                     .arg(pages().at(i).title.toLower().replace(QLatin1Char(' '), QLatin1Char('-')),
                          dark ? QStringLiteral("dark") : QStringLiteral("light")));
-            const QString error = write(window.grab(), path);
+            QString error = write(window.grab(), path);
             if (!error.isEmpty())
                 return error;
             out << path << QLatin1Char('\n');

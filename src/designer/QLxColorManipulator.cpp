@@ -37,11 +37,12 @@ QLxColorManipulator::QLxColorManipulator(QWidget *parent, const char *name)
     connect(m_slider, SIGNAL(sliderPressed()), this, SLOT(sliderValuePressed()));
     connect(m_slider, SIGNAL(sliderReleased()), this, SLOT(sliderValueReleased()));
     connect(m_slider, SIGNAL(valueChanged(float)), this, SLOT(sliderValueChanged(float)));
-    // clang-format off: these signatures are written as their users know them
-    connect(m_button, SIGNAL(temporaryColorChosen(const QLxColor &)), this,
-            SLOT(temporaryColorChanged(const QLxColor &)));
-    connect(m_button, SIGNAL(finalColorChosen(const QLxColor &)), this,
-            SLOT(finalColorChanged(const QLxColor &)));
+    // The spelling of these signatures is part of the contract.
+    // clang-format off
+    connect(m_button, SIGNAL(temporaryColorChosen( const QLxColor & )),
+            this, SLOT(temporaryColorChanged(const QLxColor &)));
+    connect(m_button, SIGNAL(finalColorChosen( const QLxColor & )),
+            this, SLOT(finalColorChanged(const QLxColor &)));
     connect(m_button, SIGNAL(userSkipped(void)), this, SLOT(cancelledPressed(void)));
     // clang-format on
 }

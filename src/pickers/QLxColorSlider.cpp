@@ -74,25 +74,22 @@ void QLxColorSlider::setMode(Mode mode)
     m_mode = mode;
 }
 
-void QLxColorSlider::storeReferenceColor(QLxColor &stored, const QLxColor &color,
-                                         void (QLxColorSlider::*changed)(QLxColor))
-{
-    if (stored == color)
-        return;
-    stored = color;
-    whileAlive(
-        this, [&] { Q_EMIT(this->*changed)
-                    (color); }, [this] { repaint(); });
-}
-
 void QLxColorSlider::setMinColor(QLxColor color)
 {
-    storeReferenceColor(m_minColor, color, &QLxColorSlider::minColorChanged);
+    if (m_minColor == color)
+        return;
+    m_minColor = color;
+    whileAlive(
+        this, [&] { Q_EMIT minColorChanged(color); }, [this] { repaint(); });
 }
 
 void QLxColorSlider::setMaxColor(QLxColor color)
 {
-    storeReferenceColor(m_maxColor, color, &QLxColorSlider::maxColorChanged);
+    if (m_maxColor == color)
+        return;
+    m_maxColor = color;
+    whileAlive(
+        this, [&] { Q_EMIT maxColorChanged(color); }, [this] { repaint(); });
 }
 
 void QLxColorSlider::setMinColor(float red, float green, float blue)

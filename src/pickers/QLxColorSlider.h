@@ -128,8 +128,6 @@ protected:
 private:
     void init();
     void switchMode(Mode mode, bool on);
-    void storeReferenceColor(QLxColor &stored, const QLxColor &color,
-                             void (QLxColorSlider::*changed)(QLxColor));
     void updateEnabled();
     float mapToFloat(int x, int y) const;
     void repaintSlider(QPainter &painter);

@@ -62,8 +62,10 @@ grep -q '<header>QLxColorManipulator.h</header>' form.ui || fail "the form names
     || fail "the widget starts with 100 x 100 pixels"
 
 cp "$example"/CMakeLists.txt "$example"/main.cpp .
-cmake -S . -B build -G Ninja -DCMAKE_PREFIX_PATH="$prefix" > build.log \
-    && cmake --build build >> build.log || { cat build.log; fail "the application builds"; }
+if ! (cmake -S . -B build -G Ninja -DCMAKE_PREFIX_PATH="$prefix" && cmake --build build) > build.log; then
+    cat build.log
+    fail "the application builds"
+fi
 QT_STYLE_OVERRIDE=fusion build/designer-form > signals.log &
 running=$!
 until_true "the application opens" xdotool search --onlyvisible --pid "$running" > /dev/null
