@@ -7,9 +7,11 @@ find_program(QLX_GCOVR gcovr REQUIRED)
 add_custom_target(coverage-report
   COMMAND find ${PROJECT_BINARY_DIR} -name "*.gcda" -delete
   COMMAND ${CMAKE_CTEST_COMMAND} --output-on-failure --no-tests=error
-  COMMAND ${QLX_GCOVR} --root ${PROJECT_SOURCE_DIR} --filter src/ --exclude-unreachable-branches
+  COMMAND ${QLX_GCOVR} --root ${PROJECT_SOURCE_DIR} --filter ${PROJECT_SOURCE_DIR}/src/ --exclude-unreachable-branches
           --fail-under-line 95 --print-summary --output ${PROJECT_BINARY_DIR}/coverage.txt
           ${PROJECT_BINARY_DIR}
   COMMAND ${CMAKE_COMMAND} -E cat ${PROJECT_BINARY_DIR}/coverage.txt
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
   VERBATIM)
+get_property(tests DIRECTORY ${PROJECT_SOURCE_DIR}/tests PROPERTY BUILDSYSTEM_TARGETS)
+add_dependencies(coverage-report QLxControls ${tests})
