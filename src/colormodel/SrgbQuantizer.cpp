@@ -9,28 +9,12 @@ namespace QLx {
 
 namespace {
 
-float floatFromBits(quint32 bits)
+/// The level of the float with these bits, by plain evaluation.
+quint32 level(quint32 bits)
 {
     float x = 0.0F;
     std::memcpy(&x, &bits, sizeof x);
-    return x;
-}
-
-int evaluate(float linear)
-{
-    return quantizeLinear(linearToSrgb(linear));
-}
-
-/// The smallest float that evaluates to at least level; floats from 0 up are ordered as their bits are.
-float threshold(int level)
-{
-    quint32 below = 0x00000000;   // 0 evaluates to 0
-    quint32 reached = 0x40000000; // 2 evaluates to 255
-    while (reached - below > 1) {
-        const quint32 middle = below + (reached - below) / 2;
-        (evaluate(floatFromBits(middle)) >= level ? reached : below) = middle;
-    }
-    return floatFromBits(reached);
+    return static_cast<quint32>(quantizeLinear(linearToSrgb(x)));
 }
 
 } // namespace
@@ -43,12 +27,17 @@ const SrgbQuantizer &SrgbQuantizer::instance()
 
 SrgbQuantizer::SrgbQuantizer()
 {
-    for (int level = 0; level < 255; ++level)
-        m_thresholds[static_cast<size_t>(level)] = threshold(level + 1);
-    m_thresholds[255] = INFINITY;
-    for (size_t i = 0; i < Buckets; ++i) {
-        const quint32 bits = (bucket(Lowest) + static_cast<quint32>(i)) << 16U;
-        m_levels[i] = static_cast<quint8>(evaluate(floatFromBits(bits)));
+    for (quint32 bucket = 0; bucket < Buckets; ++bucket) {
+        // Positive floats are ordered as their bits are.
+        const quint32 first = (FirstBucket + bucket) << 16U;
+        const quint32 start = level(first);
+        quint32 below = first;
+        quint32 reached = first + 0x10000; // the next bucket, if no float in this one steps up
+        while (reached - below > 1) {
+            const quint32 middle = below + (reached - below) / 2;
+            (level(middle) > start ? reached : below) = middle;
+        }
+        m_entries[bucket] = (start << 16U) + (0x10000 - (reached - first));
     }
 }
 

@@ -20,33 +20,34 @@ public:
     static const SrgbQuantizer &instance();
 
     /// 0 to 255 for any linear channel: negative gives 0, infinity gives 255, a NaN gives 0.
-    int operator()(float linear) const
+    int operator()(float linear) const { return look(m_entries.data(), linear); }
+
+    /// The table, for loops that the compiler is to vectorise: look(table(), x) is operator()(x).
+    const quint32 *table() const { return m_entries.data(); }
+
+    static int look(const quint32 *table, float linear)
     {
         float x = linear > Lowest ? linear : Lowest;
         x = x < Highest ? x : Highest;
-        const int level = m_levels[bucket(x) - bucket(Lowest)];
-        return level + (x >= m_thresholds[static_cast<size_t>(level)] ? 1 : 0);
+        quint32 bits = 0;
+        std::memcpy(&bits, &x, sizeof bits);
+        const auto bucket = static_cast<qint32>(bits >> 16U) - static_cast<qint32>(FirstBucket);
+        const quint32 sum = table[bucket] + (bits & 0xFFFFU);
+        return static_cast<int>(sum >> 16U);
     }
 
 private:
     SrgbQuantizer();
 
-    // A bucket is all floats that share their upper 16 bits, 128 to the octave: narrow enough to hold
-    // one threshold at the most.
-    static quint32 bucket(float x)
-    {
-        quint32 bits = 0;
-        std::memcpy(&bits, &x, sizeof bits);
-        return bits >> 16U;
-    }
     static constexpr float Lowest = 1.0F / 4096.0F; // still level 0: the first threshold is near 1 / 3300
     static constexpr float Highest = 1.005F;        // already level 255: the last threshold is just above 1
-    static constexpr size_t Buckets = 12 * 128 + 1; // from Lowest to 1, and the one that holds Highest
 
-    /// Element i is the smallest channel that reaches level i + 1; none is needed for 256.
-    std::array<float, 256> m_thresholds;
-    /// The level of each bucket's smallest channel.
-    std::array<quint8, Buckets> m_levels;
+    // A bucket is all floats that share their upper 16 bits, 128 to the octave: narrow enough to hold one
+    // threshold at the most. Its entry has the level of the bucket's smallest float in the upper half; in the
+    // lower half, what must be added to the lower 16 bits of the threshold to carry over into the upper half.
+    static constexpr quint32 FirstBucket = 0x3980;  // Lowest
+    static constexpr size_t Buckets = 12 * 128 + 1; // from Lowest to 1, and the one that holds Highest
+    std::array<quint32, Buckets> m_entries;
 };
 
 } // namespace QLx

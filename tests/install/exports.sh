@@ -6,7 +6,7 @@
 # conversions and settings, and the plugin's entry points.
 set -eu
 surplus=$(nm -D --defined-only -C "$1" | cut -d ' ' -f 3- | grep -vE \
-    -e '^((non-virtual )?(thunk|vtable|typeinfo|typeinfo name|guard variable) (to|for) )?QLxColor(Slider|Button|Manipulator)(::|$)' \
+    -e '^((non-virtual )?(thunk|vtable|typeinfo|typeinfo name|guard variable) (to|for) )?QLxColor(Slider|Field|Button|Manipulator)(::|$)' \
     -e '^QLx::(hsvToRgb|rgbToHsv|rgbToLab|labToHsv|linearToSrgb|srgbToLinear|to(Srgb|Q)Color(Raw|F)?|fromSrgbColor)\(' \
     -e '^QLx::(colorUseGamma|colorGammaValue|whitePoint|labChromaRange)$' \
     -e '^qt_plugin_(instance|query_metadata)$' \

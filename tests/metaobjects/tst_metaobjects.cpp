@@ -4,6 +4,7 @@
 // The methods, properties and enums of every public widget class, in their order: hosts connect by
 // signature and may call by index.
 #include "QLxColorButton.h"
+#include "QLxColorField.h"
 #include "QLxColorManipulator.h"
 #include "QLxColorSlider.h"
 #include "TestCase.h"
@@ -51,6 +52,44 @@ const Class classes[] = {
      "Mode mode READ WRITE\n"
      "Qt::Orientation orientation READ WRITE\n",
      "Mode Hue=0 Saturation=1 Value=2 Red=3 Green=4 Blue=5 Lstar=6 Astar=7 Bstar=8\n"},
+    {&QLxColorField::staticMetaObject, "QWidget",
+     "s hueChanged(float)\n"
+     "s saturationChanged(float)\n"
+     "s valueChanged(float)\n"
+     "s redChanged(float)\n"
+     "s blueChanged(float)\n"
+     "s greenChanged(float)\n"
+     "s lstarChanged(float)\n"
+     "s astarChanged(float)\n"
+     "s bstarChanged(float)\n"
+     "s colorChanged(QLxColor)\n"
+     "s constantChannelChanged(float)\n"
+     "+ setHSV(float,float,float)\n"
+     "+ setHue(float)\n"
+     "+ setSaturation(float)\n"
+     "+ setValue(float)\n"
+     "+ setRGB(float,float,float)\n"
+     "+ setRed(float)\n"
+     "+ setGreen(float)\n"
+     "+ setBlue(float)\n"
+     "+ setLab(float,float,float)\n"
+     "+ setLstar(float)\n"
+     "+ setAstar(float)\n"
+     "+ setBstar(float)\n"
+     "+ setColor(QLxColor)\n"
+     "+ setHueMode(bool)\n"
+     "+ setSaturationMode(bool)\n"
+     "+ setValueMode(bool)\n"
+     "+ setRedMode(bool)\n"
+     "+ setGreenMode(bool)\n"
+     "+ setBlueMode(bool)\n"
+     "+ setLstarMode(bool)\n"
+     "+ setAstarMode(bool)\n"
+     "+ setBstarMode(bool)\n"
+     "+ setMode(Mode)\n"
+     "+ setConstantChannel(float)\n"
+     "+ updateConstantChannel(QLxColor)\n",
+     "", ""},
     {&QLxColorButton::staticMetaObject, "QPushButton",
      "s colorButtonClicked()\n"
      "s temporaryColorChosen(QLxColor)\n"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The slider's state, signals, pointer and life; tst_colorsliderpicture looks at what it paints.
+#include "PaintCounter.h"
 #include "Pointer.h"
 #include "QLxColorSlider.h"
 #include "QLxColorSpaces.h"
@@ -10,7 +11,6 @@
 #include "TestCase.h"
 
 #include <limits>
-#include <utility>
 
 namespace {
 
@@ -28,30 +28,6 @@ void watch(SignalLog &log, QLxColorSlider *slider)
     log.watch(slider, &S::sliderMoved, "sliderMoved");
     log.watch(slider, &S::sliderReleased, "sliderReleased");
 }
-
-/// Counts the paint events of a shown widget.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        m_count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int take() { return std::exchange(m_count, 0); }
-    /// Paints that were only scheduled.
-    int takeScheduled()
-    {
-        m_count = 0;
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-        return take();
-    }
-
-private:
-    int m_count = 0;
-};
 
 } // namespace
 
