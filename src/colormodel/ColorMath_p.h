@@ -11,6 +11,9 @@
 #include <cfloat>
 #include <cmath>
 
+/// For what takes part in loops over pixels: a function compiled for a wider processor inlines it too.
+#define QLX_INLINE inline __attribute__((always_inline))
+
 #ifdef __FAST_MATH__
 #error "The conversions are defined step by step; fast-math would change their results."
 #endif
@@ -45,7 +48,7 @@ struct HueSector
     float fraction;
 };
 
-inline HueSector hueSector(float hue)
+QLX_INLINE HueSector hueSector(float hue)
 {
     const float position = hue < 0.0F ? 0.0F : hue >= 360.0F ? 5.999833106994629F : hue / 60.0F;
     const int index = position >= 0.0F ? static_cast<int>(position) : 0; // a NaN stays in the fraction
@@ -107,7 +110,7 @@ inline float labCurve(float u)
     return u > 0.008856452F ? std::pow(u, 0.33333334F) : 7.7870374F * u + 0.13793103F;
 }
 
-inline float labCurveInverse(float f)
+QLX_INLINE float labCurveInverse(float f)
 {
     return f > 0.20689656F ? f * f * f : (f - 0.13793103F) * 0.12841856F;
 }

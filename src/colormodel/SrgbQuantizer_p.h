@@ -3,6 +3,8 @@
 #ifndef SRGBQUANTIZER_P_H
 #define SRGBQUANTIZER_P_H
 
+#include "ColorMath_p.h"
+
 #include <QtGlobal>
 
 #include <array>
@@ -20,21 +22,27 @@ public:
     static const SrgbQuantizer &instance();
 
     /// 0 to 255 for any linear channel: negative gives 0, infinity gives 255, a NaN gives 0.
-    int operator()(float linear) const { return look(m_entries.data(), linear); }
+    int operator()(float linear) const
+    {
+        const quint32 key = keyOf(linear);
+        return static_cast<int>(finish(key, m_entries[indexOf(bucketOf(key))]) >> 16U);
+    }
 
-    /// The table, for loops that the compiler is to vectorise: look(table(), x) is operator()(x).
-    const quint32 *table() const { return m_entries.data(); }
-
-    static int look(const quint32 *table, float linear)
+    // The same in three steps, for loops over many channels: the first and the last are arithmetic that can
+    // be vectorised, the one between is the look-up of table()[indexOf(bucketOf(key))].
+    static QLX_INLINE quint32 keyOf(float linear)
     {
         float x = linear > Lowest ? linear : Lowest;
         x = x < Highest ? x : Highest;
         quint32 bits = 0;
         std::memcpy(&bits, &x, sizeof bits);
-        const auto bucket = static_cast<qint32>(bits >> 16U) - static_cast<qint32>(FirstBucket);
-        const quint32 sum = table[bucket] + (bits & 0xFFFFU);
-        return static_cast<int>(sum >> 16U);
+        return bits;
     }
+    static QLX_INLINE size_t bucketOf(quint32 key) { return key >> 16U; }
+    static QLX_INLINE size_t indexOf(size_t bucket) { return bucket - FirstBucket; }
+    /// Has the level in its upper half.
+    static QLX_INLINE quint32 finish(quint32 key, quint32 entry) { return entry + (key & 0xFFFFU); }
+    const quint32 *table() const { return m_entries.data(); }
 
 private:
     SrgbQuantizer();

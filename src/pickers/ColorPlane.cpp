@@ -11,9 +11,9 @@ namespace QLx {
 
 namespace {
 
-using Kernel = void (*)(const PlaneTarget &, int plane, float constant, const quint32 *table);
+using Kernel = void (*)(PlaneTarget, int plane, float constant, const quint32 *table);
 
-void plainKernel(const PlaneTarget &target, int plane, float constant, const quint32 *table)
+void plainKernel(PlaneTarget target, int plane, float constant, const quint32 *table)
 {
     fillPlane(target, plane, constant, table);
 }
@@ -25,14 +25,13 @@ struct NamedKernel
 };
 
 #if defined(__x86_64__) && defined(__GNUC__)
-[[gnu::target("avx2")]] void avx2Kernel(const PlaneTarget &target, int plane, float constant,
-                                        const quint32 *table)
+[[gnu::target("avx2")]] void avx2Kernel(PlaneTarget target, int plane, float constant, const quint32 *table)
 {
     fillPlane(target, plane, constant, table);
 }
 
 [[gnu::target("avx512f,avx512bw,avx512dq,avx512vl,prefer-vector-width=512")]] void
-avx512Kernel(const PlaneTarget &target, int plane, float constant, const quint32 *table)
+avx512Kernel(PlaneTarget target, int plane, float constant, const quint32 *table)
 {
     fillPlane(target, plane, constant, table);
 }

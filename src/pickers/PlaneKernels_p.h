@@ -14,7 +14,15 @@
 // kind of processor. What depends on a column only is computed once into arrays, what depends on a row only
 // once per row. The loops over pixels do the remaining steps of the conversion in its own order, so the
 // results are the same bits as those of one pixel at a time.
-#define QLX_INLINE inline __attribute__((always_inline))
+
+// What a loop needs to be vectorised: everything in it inlined, and the promise that no pixel depends on
+// another.
+#define QLX_ALWAYS __attribute__((always_inline))
+#ifdef __clang__
+#define QLX_INDEPENDENT _Pragma("clang loop vectorize(assume_safety)")
+#else
+#define QLX_INDEPENDENT _Pragma("GCC ivdep")
+#endif
 
 namespace QLx {
 
@@ -59,11 +67,15 @@ QLX_INLINE QRgb pack(int red, int green, int blue)
            static_cast<QRgb>(blue);
 }
 
-/// quantizeLinear() without branches.
+/// quantizeLinear() without branches; bounded channels are known to be in [0, 1].
+template <bool Bounded>
 QLX_INLINE int level(float channel)
 {
-    float x = channel > 0.0F ? channel : 0.0F;
-    x = x < 1.0F ? x : 1.0F;
+    float x = channel;
+    if (!Bounded) {
+        x = channel > 0.0F ? channel : 0.0F;
+        x = x < 1.0F ? x : 1.0F;
+    }
     return static_cast<int>(x * 255.0F);
 }
 
@@ -90,18 +102,20 @@ QLX_INLINE Rgb sectorFactors(const HueSector &sector, float itself)
 }
 
 /// Hue or saturation constant: every pixel is its row's value times its column's 1 - saturation * k.
-QLX_INLINE void fillValueRows(const PlaneTarget &target, const PlaneColumns &tint)
+template <bool Bounded>
+QLX_INLINE void fillValueRows(PlaneTarget target, const PlaneColumns &tint)
 {
     for (int y = 0; y < target.height; ++y) {
         const float value = target.above(y) / target.rows();
         QRgb *const out = target.row(y);
+        QLX_INDEPENDENT
         for (int x = 0; x < target.width; ++x)
-            out[x] = pack(level(value * tint.first[x]), level(value * tint.second[x]),
-                          level(value * tint.third[x]));
+            out[x] = pack(level<Bounded>(value * tint.first[x]), level<Bounded>(value * tint.second[x]),
+                          level<Bounded>(value * tint.third[x]));
     }
 }
 
-QLX_INLINE void fillHuePlane(const PlaneTarget &target, float hue)
+QLX_INLINE void fillHuePlane(PlaneTarget target, float hue)
 {
     const Rgb k = sectorFactors(hueSector(hue), 0.0F);
     const PlaneColumns tint(target.width);
@@ -111,10 +125,14 @@ QLX_INLINE void fillHuePlane(const PlaneTarget &target, float hue)
         tint.second[x] = 1.0F - saturation * k.green;
         tint.third[x] = 1.0F - saturation * k.blue;
     }
-    fillValueRows(target, tint);
+    for (float *column : {tint.first, tint.second, tint.third}) {
+        for (int x = 0; x < target.width; ++x) // of a hue of NaN
+            column[x] = column[x] >= 0.0F ? column[x] : 0.0F;
+    }
+    fillValueRows<true>(target, tint);
 }
 
-QLX_INLINE void fillHueColumns(const PlaneTarget &target, float itself, const PlaneColumns &k)
+QLX_INLINE void fillHueColumns(PlaneTarget target, float itself, const PlaneColumns &k)
 {
     const float step = 360.0F / target.columns();
     for (int x = 0; x < target.width; ++x) {
@@ -125,7 +143,7 @@ QLX_INLINE void fillHueColumns(const PlaneTarget &target, float itself, const Pl
     }
 }
 
-QLX_INLINE void fillSaturationPlane(const PlaneTarget &target, float saturation)
+QLX_INLINE void fillSaturationPlane(PlaneTarget target, float saturation)
 {
     const PlaneColumns tint(target.width);
     fillHueColumns(target, -1.0F, tint);
@@ -133,46 +151,92 @@ QLX_INLINE void fillSaturationPlane(const PlaneTarget &target, float saturation)
         for (int x = 0; x < target.width; ++x) // the value itself stays even for a saturation of NaN
             column[x] = column[x] < 0.0F ? 1.0F : 1.0F - saturation * column[x];
     }
-    fillValueRows(target, tint);
+    if (saturation >= 0.0F && saturation <= 1.0F)
+        fillValueRows<true>(target, tint);
+    else
+        fillValueRows<false>(target, tint);
 }
 
-QLX_INLINE void fillValuePlane(const PlaneTarget &target, float value)
+template <bool Bounded>
+QLX_INLINE void fillSaturationRows(PlaneTarget target, const PlaneColumns &k, float value)
 {
-    const PlaneColumns k(target.width);
-    fillHueColumns(target, 0.0F, k);
     for (int y = 0; y < target.height; ++y) {
         const float saturation = target.above(y) / target.rows();
         QRgb *const out = target.row(y);
+        QLX_INDEPENDENT
         for (int x = 0; x < target.width; ++x)
-            out[x] = pack(level(value * (1.0F - saturation * k.first[x])),
-                          level(value * (1.0F - saturation * k.second[x])),
-                          level(value * (1.0F - saturation * k.third[x])));
+            out[x] = pack(level<Bounded>(value * (1.0F - saturation * k.first[x])),
+                          level<Bounded>(value * (1.0F - saturation * k.second[x])),
+                          level<Bounded>(value * (1.0F - saturation * k.third[x])));
     }
 }
 
+QLX_INLINE void fillValuePlane(PlaneTarget target, float value)
+{
+    const PlaneColumns k(target.width);
+    fillHueColumns(target, 0.0F, k);
+    if (value >= 0.0F && value <= 1.0F)
+        fillSaturationRows<true>(target, k, value);
+    else
+        fillSaturationRows<false>(target, k, value);
+}
+
 /// One channel constant, one by column and one by row, each shifted to its place in a pixel.
-QLX_INLINE void fillRgbPlane(const PlaneTarget &target, float constant, int constantShift, int acrossShift,
+QLX_INLINE void fillRgbPlane(PlaneTarget target, float constant, int constantShift, int acrossShift,
                              int upShift, float acrossLength, float upLength)
 {
     std::vector<QRgb> across(static_cast<size_t>(target.width));
-    const QRgb fixed = 0xFF000000U | static_cast<QRgb>(level(constant)) << constantShift;
+    const QRgb fixed = 0xFF000000U | static_cast<QRgb>(level<false>(constant)) << constantShift;
     for (int x = 0; x < target.width; ++x)
         across[static_cast<size_t>(x)] =
-            fixed | static_cast<QRgb>(level(static_cast<float>(x) / acrossLength)) << acrossShift;
+            fixed | static_cast<QRgb>(level<false>(static_cast<float>(x) / acrossLength)) << acrossShift;
     const QRgb *const columns = across.data();
     for (int y = 0; y < target.height; ++y) {
-        const QRgb up = static_cast<QRgb>(level(target.above(y) / upLength)) << upShift;
+        const QRgb up = static_cast<QRgb>(level<false>(target.above(y) / upLength)) << upShift;
         QRgb *const out = target.row(y);
+        QLX_INDEPENDENT
         for (int x = 0; x < target.width; ++x)
             out[x] = columns[x] | up;
     }
 }
 
-/// The end of every L*a*b* pixel.
-QLX_INLINE QRgb encoded(const quint32 *table, float red, float green, float blue)
+/// Keeps a loop of look-ups scalar: gather instructions are slower than that on many processors.
+QLX_INLINE size_t opaque(size_t number)
 {
-    return pack(SrgbQuantizer::look(table, red), SrgbQuantizer::look(table, green),
-                SrgbQuantizer::look(table, blue));
+    __asm__("" : "+r"(number));
+    return number;
+}
+
+/// A row of encoded pixels; channels(x) gives the linear ones.
+template <typename Channels>
+QLX_INLINE void encodeRow(QRgb *out, int width, const quint32 *table, Channels channels)
+{
+    using Q = SrgbQuantizer;
+    constexpr int Chunk = 128;
+    quint32 keys[3][Chunk];
+    quint32 entries[3][Chunk];
+    for (int start = 0; start < width; start += Chunk) {
+        const int count = std::min(width - start, Chunk);
+        QLX_INDEPENDENT
+        for (int i = 0; i < count; ++i) {
+            const Rgb c = channels(start + i);
+            keys[0][i] = Q::keyOf(c.red);
+            keys[1][i] = Q::keyOf(c.green);
+            keys[2][i] = Q::keyOf(c.blue);
+        }
+        for (int i = 0; i < count; ++i) {
+            entries[0][i] = table[Q::indexOf(opaque(Q::bucketOf(keys[0][i])))];
+            entries[1][i] = table[Q::indexOf(opaque(Q::bucketOf(keys[1][i])))];
+            entries[2][i] = table[Q::indexOf(opaque(Q::bucketOf(keys[2][i])))];
+        }
+        QLX_INDEPENDENT
+        for (int i = 0; i < count; ++i) {
+            const quint32 red = Q::finish(keys[0][i], entries[0][i]) & 0xFF0000U;
+            const quint32 green = Q::finish(keys[1][i], entries[1][i]) >> 8U & 0xFF00U;
+            const quint32 blue = Q::finish(keys[2][i], entries[2][i]) >> 16U;
+            out[start + i] = 0xFF000000U | red | green | blue;
+        }
+    }
 }
 
 QLX_INLINE float chroma(float position)
@@ -180,7 +244,7 @@ QLX_INLINE float chroma(float position)
     return (position - 0.5F) * LabChromaRange;
 }
 
-QLX_INLINE void fillLstarPlane(const PlaneTarget &target, float lstar, const quint32 *table)
+QLX_INLINE void fillLstarPlane(PlaneTarget target, float lstar, const quint32 *table)
 {
     const PlaneColumns xy(target.width); // what X and Y contribute to each channel
     const float fy = (lstar + 16.0F) / 116.0F;
@@ -198,13 +262,13 @@ QLX_INLINE void fillLstarPlane(const PlaneTarget &target, float lstar, const qui
         const float red = 0.4985314F * z;
         const float green = 0.041556F * z;
         const float blue = 1.0572252F * z;
-        QRgb *const out = target.row(y);
-        for (int i = 0; i < target.width; ++i)
-            out[i] = encoded(table, xy.first[i] - red, xy.second[i] + green, xy.third[i] + blue);
+        encodeRow(target.row(y), target.width, table, [&](int i) QLX_ALWAYS {
+            return Rgb{xy.first[i] - red, xy.second[i] + green, xy.third[i] + blue};
+        });
     }
 }
 
-QLX_INLINE void fillAstarPlane(const PlaneTarget &target, float astar, const quint32 *table)
+QLX_INLINE void fillAstarPlane(PlaneTarget target, float astar, const quint32 *table)
 {
     const PlaneColumns columns(target.width);
     for (int i = 0; i < target.width; ++i)
@@ -216,15 +280,14 @@ QLX_INLINE void fillAstarPlane(const PlaneTarget &target, float astar, const qui
         const float red = 3.2404542F * x - 1.5371385F * y;
         const float green = -0.969266F * x + 1.8760108F * y;
         const float blue = 0.0556434F * x - 0.2040259F * y;
-        QRgb *const out = target.row(row);
-        for (int i = 0; i < target.width; ++i) {
+        encodeRow(target.row(row), target.width, table, [&](int i) QLX_ALWAYS {
             const float z = WhiteZ * labCurveInverse(fy - columns.first[i]);
-            out[i] = encoded(table, red - 0.4985314F * z, green + 0.041556F * z, blue + 1.0572252F * z);
-        }
+            return Rgb{red - 0.4985314F * z, green + 0.041556F * z, blue + 1.0572252F * z};
+        });
     }
 }
 
-QLX_INLINE void fillBstarPlane(const PlaneTarget &target, float bstar, const quint32 *table)
+QLX_INLINE void fillBstarPlane(PlaneTarget target, float bstar, const quint32 *table)
 {
     const PlaneColumns columns(target.width);
     for (int i = 0; i < target.width; ++i)
@@ -233,17 +296,16 @@ QLX_INLINE void fillBstarPlane(const PlaneTarget &target, float bstar, const qui
         const float fy = (target.above(row) / target.columns() * 100.0F + 16.0F) / 116.0F;
         const float y = WhiteY * labCurveInverse(fy);
         const float z = WhiteZ * labCurveInverse(fy - bstar / 200.0F);
-        QRgb *const out = target.row(row);
-        for (int i = 0; i < target.width; ++i) {
+        encodeRow(target.row(row), target.width, table, [&](int i) QLX_ALWAYS {
             const float x = WhiteX * labCurveInverse(columns.first[i] + fy);
-            out[i] = encoded(table, 3.2404542F * x - 1.5371385F * y - 0.4985314F * z,
-                             -0.969266F * x + 1.8760108F * y + 0.041556F * z,
-                             0.0556434F * x - 0.2040259F * y + 1.0572252F * z);
-        }
+            return Rgb{3.2404542F * x - 1.5371385F * y - 0.4985314F * z,
+                       -0.969266F * x + 1.8760108F * y + 0.041556F * z,
+                       0.0556434F * x - 0.2040259F * y + 1.0572252F * z};
+        });
     }
 }
 
-QLX_INLINE void fillPlane(const PlaneTarget &target, int plane, float constant, const quint32 *table)
+QLX_INLINE void fillPlane(PlaneTarget target, int plane, float constant, const quint32 *table)
 {
     switch (plane) {
     case 0:

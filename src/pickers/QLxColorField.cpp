@@ -236,7 +236,8 @@ void QLxColorField::switchMode(Mode mode, bool on)
         return;
     const float constant = channelOf(mode);
     m_constantChannel = constant;
-    const bool early = mode == HueMode || mode == ValueMode; // in force before the signal, the others after it
+    const bool early =
+        mode == HueMode || mode == ValueMode; // in force before the signal, the others after it
     if (early)
         m_mode = mode;
     whileAlive(

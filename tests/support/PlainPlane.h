@@ -44,9 +44,20 @@ QColor fromHsv(Number hue, Number s, Number v)
     const Number p = v * (one - s);
     const Number q = v * (one - s * f);
     const Number t = v * (one - s * (one - f));
-    const Number channels[6][3] = {{v, t, p}, {q, v, p}, {p, v, t}, {p, q, v}, {t, p, v}, {v, p, q}};
-    const auto &c = channels[i];
-    return {component(c[0]), component(c[1]), component(c[2]), 255};
+    switch (i) {
+    case 1:
+        return {component(q), component(v), component(p), 255};
+    case 2:
+        return {component(p), component(v), component(t), 255};
+    case 3:
+        return {component(p), component(q), component(v), 255};
+    case 4:
+        return {component(t), component(p), component(v), 255};
+    case 5:
+        return {component(v), component(p), component(q), 255};
+    default:
+        return {component(v), component(t), component(p), 255};
+    }
 }
 
 template <typename Number>
@@ -73,33 +84,33 @@ QColor fromLab(Number lstar, Number astar, Number bstar)
 template <typename Number>
 QColor pixel(int plane, Number constant, int x, int y, int w, int h)
 {
-    const auto number = [](int i) { return Number(static_cast<float>(i)); };
-    const Number u = number(x) / number(w);
-    const Number t = number(h - 1 - y) / number(h);
-    const Number hue = number(x) * (Number(360.0F) / number(w));
-    // On three planes columns are divided by the height and rows by the width.
-    const Number crossedU = number(x) / number(h);
-    const Number crossedT = number(h - 1 - y) / number(w);
+    const auto fraction = [](int part, int whole) {
+        return Number(static_cast<float>(part)) / Number(static_cast<float>(whole));
+    };
+    const auto hue = [&] {
+        return Number(static_cast<float>(x)) * (Number(360.0F) / Number(static_cast<float>(w)));
+    };
     const auto chroma = [](Number position) { return (position - Number(0.5F)) * Number(256.0F); };
+    const int up = h - 1 - y;
     switch (plane) {
     case 0:
-        return fromHsv(constant, u, t);
+        return fromHsv(constant, fraction(x, w), fraction(up, h));
     case 1:
-        return fromHsv(hue, constant, t);
+        return fromHsv(hue(), constant, fraction(up, h));
     case 2:
-        return fromHsv(hue, t, constant);
-    case 3:
-        return {component(constant), component(crossedU), component(crossedT), 255};
+        return fromHsv(hue(), fraction(up, h), constant);
+    case 3: // columns by the height and rows by the width, here and on the last two
+        return {component(constant), component(fraction(x, h)), component(fraction(up, w)), 255};
     case 4:
-        return {component(u), component(constant), component(t), 255};
+        return {component(fraction(x, w)), component(constant), component(fraction(up, h)), 255};
     case 5:
-        return {component(u), component(t), component(constant), 255};
+        return {component(fraction(x, w)), component(fraction(up, h)), component(constant), 255};
     case 6:
-        return fromLab(constant, chroma(u), chroma(t));
+        return fromLab(constant, chroma(fraction(x, w)), chroma(fraction(up, h)));
     case 7:
-        return fromLab(crossedT * Number(100.0F), constant, chroma(crossedU));
+        return fromLab(fraction(up, w) * Number(100.0F), constant, chroma(fraction(x, h)));
     default:
-        return fromLab(crossedT * Number(100.0F), chroma(crossedU), constant);
+        return fromLab(fraction(up, w) * Number(100.0F), chroma(fraction(x, h)), constant);
     }
 }
 
