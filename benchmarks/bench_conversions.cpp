@@ -3,22 +3,14 @@
 #include "BenchmarkMain.h"
 #include "ColorMath_p.h"
 #include "QLxColorSpaces.h"
+#include "Registers.h"
 #include "SrgbQuantizer_p.h"
-
-#include <QImage>
 
 #include <benchmark/benchmark.h>
 
 #include <random>
 #include <string>
 #include <vector>
-
-#if defined(__x86_64__) || defined(__i386__)
-#define QLX_X86 1
-#include <immintrin.h>
-#else
-#define QLX_X86 0
-#endif
 
 // Conversions per second, over many different colours of the RGB gamut.
 //
@@ -53,40 +45,6 @@ struct Colors
         }
     }
 };
-
-#if QLX_X86
-__attribute__((target("avx"))) void clearUpperHalves()
-{
-    _mm256_zeroupper();
-}
-#endif
-
-/// Brings the registers into the state that is measured; cheap beside ColorCount conversions.
-struct Registers
-{
-    const char *name;
-    void (*enter)();
-};
-
-std::vector<Registers> registerStates()
-{
-    std::vector<Registers> states;
-    states.push_back({"clean", [] {
-#if QLX_X86
-                          if (__builtin_cpu_supports("avx"))
-                              clearUpperHalves();
-#endif
-                      }});
-#if QLX_X86
-    if (__builtin_cpu_supports("avx2")) {
-        states.push_back({"after_painting", [] {
-                              static QImage image(64, 1, QImage::Format_ARGB32_Premultiplied);
-                              image.fill(Qt::black);
-                          }});
-    }
-#endif
-    return states;
-}
 
 /// A benchmark "conversion/NAME/STATE" for each state of the registers. Inputs must outlive the run.
 template <typename Input, typename Convert>

@@ -90,6 +90,43 @@ def rate_table(results: Results) -> str:
     return markdown_table(header, body)
 
 
+def plane_table(results: Results) -> str:
+    """For the names ROW/SIZE/COLUMN: a table for each size, and how often ours goes into the plain one."""
+    text = ""
+    for size in distinct(size for _, size, _ in results):
+        columns = distinct(column for _, of, column in results if of == size)
+        ours = [column for column in columns if column.startswith("ours")]
+        best = next(column for column in columns if column.startswith("plain"))
+        body = []
+        for row in distinct(row for row, of, _ in results if of == size):
+            times = [results.get((row, size, column)) for column in columns]
+            cells = [f"{time.nanoseconds / 1e3:.1f}" if time else "" for time in times]
+            ratio = ""
+            if (row, size, best) in results:
+                ratio = f"{results[row, size, best].nanoseconds / results[row, size, ours[-1]].nanoseconds:.0f}"
+            body.append([row, *cells, ratio])
+        header = ["", *(f"{column.replace('_', ' ')}, µs" for column in columns), "times as fast"]
+        text += f"{size}:\n\n{markdown_table(header, body)}\n"
+    return text.rstrip("\n") + "\n"
+
+
+def peer_table(results: Results) -> str:
+    """For the names ROW/SIZE: the times, and how they compare with the first row's."""
+    sizes = distinct(size for _, size in results)
+    rows = distinct(row for row, _ in results)
+    body = []
+    for row in rows:
+        line = [row]
+        for size in sizes:
+            time = results[row, size].nanoseconds
+            line += [f"{time / 1e3:.0f}", f"{time / results[rows[0], size].nanoseconds:.1f}"]
+        body.append(line)
+    header = [""]
+    for size in sizes:
+        header += [f"{size}, µs", "relative"]
+    return markdown_table(header, body)
+
+
 @dataclass
 class Family:
     title: str
@@ -105,6 +142,26 @@ Painting a whole enabled `QLxColorSlider` into an image, beside a plain widget t
 picture, pixel for pixel, with one pen and one line for each column and each colour from the public
 conversions. The ratio is ours to plain; the aim is at most 0.25 at 400x20 in every mode.""",
         comparison_table),
+    "plane": Family(
+        "Filling a plane of the colour field",
+        """\
+Filling an image with each of the nine planes, by each kind of kernel that this processor runs (the last is the
+one in use), beside a plain version that evaluates one pixel at a time with `QColor` and `setPixel` and gives the
+same pixels. "Clean" and "after painting" are states of the processor, explained under Conversions; the last column
+counts against the plain version at its best, the clean one.""",
+        plane_table),
+    "field": Family(
+        "Repainting the colour field",
+        """\
+A whole `QLxColorField` repainted in a running application (offscreen), beside the plain version of its plane
+alone at its best. The aim is a ratio of at most 1/12, 0.083.""",
+        comparison_table),
+    "peer": Family(
+        "Beside other colour planes",
+        """\
+Widgets that show the plane of hue and saturation for a new value and repaint at once: ours, the loop that
+QColorDialog fills its plane with, re-created, and the `Color2DSlider` of libqt-color-widgets.""",
+        peer_table),
     "conversion": Family(
         "Conversions",
         """\
