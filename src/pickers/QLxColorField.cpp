@@ -38,6 +38,7 @@ QLxColorField::QLxColorField(QWidget *parent, const char *name)
     if (name)
         setObjectName(QString::fromUtf8(name));
     setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent); // the plane covers the widget: Qt need not erase it first
 }
 
 QLxColorField::QLxColorField(float red, float green, float blue, QWidget *parent, const char *name)
