@@ -25,13 +25,19 @@ struct NamedKernel
 };
 
 #if defined(__x86_64__) && defined(__GNUC__)
+#ifdef __clang__
+#define QLX_AVX512 "avx512f,avx512bw,avx512dq,avx512vl"
+#else // uses half the width unless told
+#define QLX_AVX512 "avx512f,avx512bw,avx512dq,avx512vl,prefer-vector-width=512"
+#endif
+
 [[gnu::target("avx2")]] void avx2Kernel(PlaneTarget target, int plane, float constant, const quint32 *table)
 {
     fillPlane(target, plane, constant, table);
 }
 
-[[gnu::target("avx512f,avx512bw,avx512dq,avx512vl,prefer-vector-width=512")]] void
-avx512Kernel(PlaneTarget target, int plane, float constant, const quint32 *table)
+[[gnu::target(QLX_AVX512)]] void avx512Kernel(PlaneTarget target, int plane, float constant,
+                                              const quint32 *table)
 {
     fillPlane(target, plane, constant, table);
 }
