@@ -37,7 +37,7 @@ QLxColorManipulator::QLxColorManipulator(QWidget *parent, const char *name)
     connect(m_slider, SIGNAL(sliderPressed()), this, SLOT(sliderValuePressed()));
     connect(m_slider, SIGNAL(sliderReleased()), this, SLOT(sliderValueReleased()));
     connect(m_slider, SIGNAL(valueChanged(float)), this, SLOT(sliderValueChanged(float)));
-    // The spelling of these signatures is part of the contract.
+    // The spelling of these signatures is part of the contract. clazy:excludeall=connect-not-normalized
     // clang-format off
     connect(m_button, SIGNAL(temporaryColorChosen( const QLxColor & )),
             this, SLOT(temporaryColorChanged(const QLxColor &)));

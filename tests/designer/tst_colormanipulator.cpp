@@ -160,7 +160,8 @@ void TestColorManipulator::editingInTheDialog()
     Pointer pointer(parts.button);
     pointer.press({3, 3});
     pointer.release({3, 3});
-    QCOMPARE(log.take().first(), QStringLiteral("buttonPressed()"));
+    const QStringList clicked = log.take();
+    QCOMPARE(clicked.first(), QStringLiteral("buttonPressed()"));
     dialogs.current()->edit({120, 0.5F, 1});
     COMPARE_LOG(log, {"dialogColorChanged()", "dialogColorChanged(hsv 120 0.5 1)",
                       "dialogColorChanged float(0.5, 1, 0.5)", "dialogColorChanged int(127, 255, 127)",

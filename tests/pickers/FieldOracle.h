@@ -56,7 +56,8 @@ inline QLxColor replaced(const QLxColor &c, int channel, float x)
 inline QString expectedLog(const QString &order, const QLxColor &c)
 {
     QStringList lines;
-    for (const QString &name : order.split(QLatin1Char(' '))) {
+    const QStringList names = order.split(QLatin1Char(' '));
+    for (const QString &name : names) {
         if (name == QLatin1String("color")) {
             lines.append(QStringLiteral("color(%1)").arg(asText(c)));
             continue;

@@ -100,7 +100,8 @@ void TestColorPlane::plainReferenceIsExact()
 {
     QFETCH(int, number);
     for (const QSize &size : {QSize(64, 64), QSize(33, 7), QSize(7, 33), QSize(1, 1)}) {
-        for (const float constant : constants(number, 9)) {
+        const QVector<float> tried = constants(number, 9);
+        for (const float constant : tried) {
             QImage fast(size, QImage::Format_RGB32);
             QImage certain(size, QImage::Format_RGB32);
             PlainPlane::fill<float>(number, constant, fast);
@@ -158,7 +159,8 @@ void TestColorPlane::everyKernelGivesTheSamePixels()
     QFETCH(int, kernel);
     for (int number = 0; number < 9; ++number) {
         for (const QSize &size : {QSize(256, 256), QSize(33, 7), QSize(7, 33), QSize(1, 1)}) {
-            for (const float constant : constants(number, 9)) {
+            const QVector<float> tried = constants(number, 9);
+            for (const float constant : tried) {
                 QLx::usePlaneKernel(kernel);
                 const QImage actual = plane(number, constant, size);
                 QLx::usePlaneKernel(QLx::planeKernelCount() - 1);

@@ -296,7 +296,8 @@ void TestColorButton::dialogParent()
     const FakeDialogs dialogs(&log);
     QWidget *innermost = nullptr;
     QWidget *top = nullptr;
-    for (const QString &name : ancestors.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    const QStringList names = ancestors.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &name : names) {
         innermost = new QWidget(innermost, Qt::Window); // window boundaries do not stop the walk
         innermost->setObjectName(name);
         if (!top)
