@@ -121,7 +121,8 @@ void addFields()
             Field field;
             field.resize(1024, 1024);
             field.setHSV(210.0F, 0.6F, 0.7F);
-            (field.*slots[plane])(true);
+            const Slot slot = slots[plane];
+            (field.*slot)(true);
             expose(field);
             for (auto _ : state)
                 field.repaint();

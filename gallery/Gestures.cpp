@@ -11,9 +11,9 @@
 
 namespace {
 
-void sendMouse(QWidget &widget, QEvent::Type type, double fraction)
+void sendMouse(QWidget &widget, QEvent::Type type, const QPointF &fraction)
 {
-    const QPoint pos(qRound(fraction * widget.width()), widget.height() / 2);
+    const QPoint pos(qRound(fraction.x() * widget.width()), qRound(fraction.y() * widget.height()));
     const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
     QMouseEvent event(type, pos, widget.mapTo(widget.window(), pos), widget.mapToGlobal(pos), changed, held,
@@ -23,7 +23,7 @@ void sendMouse(QWidget &widget, QEvent::Type type, double fraction)
 
 } // namespace
 
-void dragAcross(QWidget &widget, double from, double to, int steps)
+void drag(QWidget &widget, const QPointF &from, const QPointF &to, int steps)
 {
     sendMouse(widget, QEvent::MouseButtonPress, from);
     for (int i = 1; i <= steps; ++i)
@@ -31,10 +31,15 @@ void dragAcross(QWidget &widget, double from, double to, int steps)
     sendMouse(widget, QEvent::MouseButtonRelease, to);
 }
 
+void dragAcross(QWidget &widget, double from, double to, int steps)
+{
+    drag(widget, {from, 0.5}, {to, 0.5}, steps);
+}
+
 void click(QWidget &widget)
 {
-    sendMouse(widget, QEvent::MouseButtonPress, 0.5);
-    sendMouse(widget, QEvent::MouseButtonRelease, 0.5);
+    sendMouse(widget, QEvent::MouseButtonPress, {0.5, 0.5});
+    sendMouse(widget, QEvent::MouseButtonRelease, {0.5, 0.5});
 }
 
 void dropColor(QWidget &widget, const QColor &color)

@@ -4,11 +4,14 @@
 #define GALLERY_GESTURES_H
 
 class QColor;
+class QPointF;
 class QWidget;
 
 /// What a visitor does with the mouse, sent straight to a widget.
 
-/// Presses the left button, moves in steps and releases; positions are fractions of the widget's width.
+/// Presses the left button, moves in steps and releases; positions are fractions of the widget's size.
+void drag(QWidget &widget, const QPointF &from, const QPointF &to, int steps);
+/// A drag at half the height; positions are fractions of the widget's width.
 void dragAcross(QWidget &widget, double from, double to, int steps);
 void click(QWidget &widget);
 void dropColor(QWidget &widget, const QColor &color);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Pages.h"
 
+#include "FieldPage.h"
 #include "SlidersPage.h"
 #include "SwatchesPage.h"
 
@@ -9,6 +10,7 @@ const QVector<Page> &pages()
 {
     static const QVector<Page> all = {
         {QStringLiteral("Sliders"), createSlidersPage, demonstrateSlidersPage},
+        {QStringLiteral("Field"), createFieldPage, demonstrateFieldPage},
         {QStringLiteral("Swatches"), createSwatchesPage, demonstrateSwatchesPage},
     };
     return all;

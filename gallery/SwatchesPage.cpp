@@ -8,6 +8,7 @@
 #include "QLxColorSlider.h"
 #include "QLxColorSpaces.h"
 #include "SignalLog.h"
+#include "SignalText.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -24,42 +25,6 @@ QLxColor fromEncoded(QRgb rgb)
 {
     const auto channel = [](int level) { return QLx::srgbToLinear(static_cast<float>(level) / 255.0F); };
     return QLx::rgbToHsv(channel(qRed(rgb)), channel(qGreen(rgb)), channel(qBlue(rgb)));
-}
-
-QString number(float value, int decimals)
-{
-    return QString::number(static_cast<double>(value), 'f', decimals);
-}
-
-QString call(const char *signal, const QString &arguments = {})
-{
-    return QStringLiteral("%1(%2)").arg(QLatin1String(signal), arguments);
-}
-
-QString call(const char *signal, const QLxColor &c)
-{
-    return call(signal, QStringLiteral("QLxColor{%1, %2, %3}")
-                            .arg(number(c.hue, 2), number(c.saturation, 4), number(c.value, 4)));
-}
-
-QString call(const char *signal, int red, int green, int blue)
-{
-    return call(signal, QStringLiteral("int %1, %2, %3").arg(red).arg(green).arg(blue));
-}
-
-QString call(const char *signal, float red, float green, float blue)
-{
-    return call(signal,
-                QStringLiteral("float %1, %2, %3").arg(number(red, 4), number(green, 4), number(blue, 4)));
-}
-
-/// Logs one signal of the sender, under the sender's object name.
-template <typename... Arguments, typename Sender>
-void watch(Sender *sender, void (Sender::*signal)(Arguments...), const char *name, SignalLog *log)
-{
-    QObject::connect(sender, signal, log, [=](Arguments... arguments) {
-        log->add(sender->objectName(), call(name, arguments...));
-    });
 }
 
 void watch(QLxColorButton *button, SignalLog *log)

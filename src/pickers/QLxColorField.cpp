@@ -124,12 +124,14 @@ void QLxColorField::change(const QLxColor &color, std::initializer_list<Notice> 
     const QPointer<QLxColorField> alive(this);
     for (const Notice notice : notices) {
         // A receiver may have changed the colour: each signal carries what is stored by then.
-        if (notice == Follow)
+        if (notice == Follow) {
             updateConstantChannel(m_color);
-        else if (notice == Color)
+        } else if (notice == Color) {
             Q_EMIT colorChanged(m_color);
-        else
-            (this->*changed[notice])(channelOf(static_cast<Mode>(notice)));
+        } else {
+            const Signal signal = changed[notice];
+            (this->*signal)(channelOf(static_cast<Mode>(notice)));
+        }
         if (!alive)
             return;
     }

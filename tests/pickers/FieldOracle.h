@@ -75,10 +75,16 @@ inline void (Field::*const modeSlots[])(bool) = {
     &Field::setLstarMode, &Field::setAstarMode,      &Field::setBstarMode,
 };
 
+inline void switchTo(Field &field, int mode, bool on)
+{
+    const auto slot = modeSlots[mode];
+    (field.*slot)(on);
+}
+
 inline void setUp(Field &field, int mode, const QLxColor &color)
 {
     field.setHSV(color.hue, color.saturation, color.value);
-    (field.*modeSlots[mode])(true);
+    switchTo(field, mode, true);
 }
 
 inline void modeRows()

@@ -33,15 +33,15 @@ void TestColorFieldModes::modeSlotsNotify()
     int during = -1;
     QObject::connect(&field, &Field::constantChannelChanged, log.context(),
                      [&] { during = field.getMode(); });
-    (field.*modeSlots[mode])(false);
+    switchTo(field, mode, false);
     COMPARE_LOG(log, {});
-    (field.*modeSlots[mode])(true);
+    switchTo(field, mode, true);
     COMPARE_LOG(log, {LogLine(QStringLiteral("constant(%1)").arg(asText(channelOf(color, mode))))});
     QCOMPARE(int(field.getMode()), mode);
     QCOMPARE(during, mode == 0 || mode == 2 ? mode : int(before)); // hue and value switch first
     QCOMPARE(asText(field.getConstantChannel()), asText(channelOf(color, mode)));
     QCOMPARE(asText(field.getColor()), asText(color));
-    (field.*modeSlots[mode])(true);
+    switchTo(field, mode, true);
     COMPARE_LOG(log, {});
 }
 

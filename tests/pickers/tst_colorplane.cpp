@@ -4,8 +4,8 @@
 // The colour field's picture: every pixel of every plane, its marker, and the mapping between pixels and
 // colours.
 #include "ColorPlane_p.h"
+#include "FieldOracle.h"
 #include "PlainPlane.h"
-#include "QLxColorField.h"
 #include "QLxColorSpaces.h"
 #include "TestCase.h"
 
@@ -216,12 +216,7 @@ void TestColorPlane::pictureOfTheWidget()
     QFETCH(int, number);
     QWidget window;
     QLxColorField field(&window);
-    using Slot = void (QLxColorField::*)(bool);
-    using Field = QLxColorField;
-    const Slot slot[] = {&Field::setHueMode,   &Field::setSaturationMode, &Field::setValueMode,
-                         &Field::setRedMode,   &Field::setGreenMode,      &Field::setBlueMode,
-                         &Field::setLstarMode, &Field::setAstarMode,      &Field::setBstarMode};
-    (field.*slot[number])(true);
+    switchTo(field, number, true);
     QCOMPARE(int(field.getMode()), number);
     const QLxColor colors[] = {{0, 0, 0},   {0, 0, 1},   {359, 1, 1},   {210, 0.6F, 0.7F},
                                {-50, 3, 2}, {Nan, 0, 1}, {90, Nan, Nan}};
