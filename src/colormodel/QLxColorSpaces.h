@@ -18,7 +18,8 @@
 /// GUI thread only: the settings are plain variables.
 namespace QLx {
 
-/// Whether toQColor encodes with the sRGB curve. Widgets follow a change at their next repaint.
+/// Whether toQColor encodes with the sRGB curve. The saturation slider follows a change at its next repaint,
+/// a swatch when its colour is set; the other ramps and planes do not read it.
 QLX_EXPORT extern bool colorUseGamma;
 /// A display gamma kept for the user. No conversion reads it: the curves are sRGB's own.
 QLX_EXPORT extern float colorGammaValue;
