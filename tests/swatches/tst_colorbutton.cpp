@@ -1,88 +1,18 @@
 // SPDX-FileCopyrightText: 2026 QLx Controls contributors
 // SPDX-License-Identifier: MIT
-#include "FakeDialog.h"
-#include "Pointer.h"
-#include "QLxColorButton.h"
+//
+// The button's look, its clicks, and the dialog that they open.
+#include "ButtonProbe.h"
 #include "QLxColorSpaces.h"
-#include "SignalLog.h"
 #include "TestCase.h"
 
-#include <QDrag>
-#include <QMimeData>
 #include <QPainter>
 
 #include <limits>
-#include <memory>
 
 namespace {
 
 constexpr float Nan = std::numeric_limits<float>::quiet_NaN();
-
-void watch(SignalLog &log, QLxColorButton *button, const char *who = "")
-{
-    using B = QLxColorButton;
-    const auto name = [who](const char *signal) { return QByteArray(who) + signal; };
-    log.watch(button, &B::colorButtonClicked, name("colorButtonClicked"));
-    log.watch(button, &B::temporaryColorChosen, name("temporaryColorChosen"));
-    log.watch(button, &B::finalColorChosen, name("finalColorChosen"));
-    log.watch(button, &B::userSkipped, name("userSkipped"));
-    log.watch(button, &B::userAccepted, name("userAccepted"));
-}
-
-void click(QWidget &widget, Qt::MouseButton button = Qt::LeftButton)
-{
-    Pointer pointer(&widget);
-    pointer.press({3, 3}, button);
-    pointer.release({3, 3}, button);
-}
-
-QString look(int red, int green, int blue)
-{
-    return QStringLiteral("QPushButton {border: 1px solid rgb(127, 127, 127);border-radius: 3px;"
-                          "background: rgb(%1, %2, %3);}")
-        .arg(red)
-        .arg(green)
-        .arg(blue);
-}
-
-std::unique_ptr<QMimeData> colorData(const QColor &color)
-{
-    auto data = std::make_unique<QMimeData>();
-    data->setColorData(color);
-    return data;
-}
-
-template <typename Event, typename Pos>
-bool send(QWidget *widget, const Pos &pos, const QMimeData *data)
-{
-    Event event(pos, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
-    event.ignore();
-    QApplication::sendEvent(widget, &event);
-    return event.isAccepted();
-}
-
-bool sendEnter(QWidget *widget, const QMimeData *data)
-{
-    return send<QDragEnterEvent>(widget, QPoint(3, 3), data);
-}
-
-/// Enters with a colour first: moves and drops reach only a widget that has accepted to be entered.
-template <typename Event, typename Pos = QPoint>
-bool sendAfterEnter(QWidget *widget, const QMimeData *data)
-{
-    sendEnter(widget, colorData(Qt::red).get());
-    return send<Event>(widget, Pos(3, 3), data);
-}
-
-bool sendMove(QWidget *widget, const QMimeData *data)
-{
-    return sendAfterEnter<QDragMoveEvent>(widget, data);
-}
-
-bool sendDrop(QWidget *widget, const QMimeData *data)
-{
-    return sendAfterEnter<QDropEvent, QPointF>(widget, data);
-}
 
 } // namespace
 
@@ -104,16 +34,7 @@ private Q_SLOTS:
     void dialogGoneWithItsParent();
     void destructorHidesDialog();
     void anyMouseButtonAndTheKeyboardClick();
-    void dragCarriesTheColor();
-    void shortMoveIsNoDrag();
-    void dropTakesTheColor();
-    void dropOfOtherDataChangesNothing();
-    void focusFollowsTheDrag();
     void multiselect();
-    void deletedInsideAnySignal_data();
-    void deletedInsideAnySignal();
-    void moduleDeletedInsideAnySignal_data();
-    void moduleDeletedInsideAnySignal();
 };
 
 void TestColorButton::startsAsDocumented()
@@ -372,113 +293,6 @@ void TestColorButton::anyMouseButtonAndTheKeyboardClick()
     COMPARE_LOG(log, {});
 }
 
-void TestColorButton::dragCarriesTheColor()
-{
-    QLxColorButton button;
-    button.setColor({120, 0.5F, 1.5F});
-    SignalLog log;
-    watch(log, &button);
-    Pointer pointer(&button);
-    pointer.press({3, 3});
-    pointer.move({3 + QApplication::startDragDistance() + 1, 3});
-    auto *const drag = button.findChild<QDrag *>();
-    QVERIFY(drag);
-    QVERIFY(drag->mimeData()->hasColor());
-    const auto color = drag->mimeData()->colorData().value<QColor>();
-    QCOMPARE(color, QColor::fromRgbF(0.75, 1.0, 0.75)); // linear and clamped
-    QCOMPARE(color.alpha(), 255);
-    QCOMPARE(drag->pixmap().size(), QSize(30, 20));
-    QCOMPARE(drag->pixmap().toImage().pixelColor(15, 10), QLx::toQColor(button.getColor()));
-    pointer.release({50, 3});
-    COMPARE_LOG(log, {}); // no click
-}
-
-void TestColorButton::shortMoveIsNoDrag()
-{
-    QLxColorButton button;
-    button.setShowColorDialog(false);
-    SignalLog log;
-    watch(log, &button);
-    Pointer pointer(&button);
-    pointer.move({300, 3}); // no press before
-    pointer.press({3, 3});
-    pointer.move({3 + QApplication::startDragDistance(), 3}); // not farther than the distance
-    QVERIFY(!button.findChild<QDrag *>());
-    pointer.release({3, 3});
-    COMPARE_LOG(log, {"colorButtonClicked()"});
-}
-
-void TestColorButton::dropTakesTheColor()
-{
-    QLxColorButton button;
-    SignalLog log;
-    watch(log, &button);
-    const auto data = colorData(QColor::fromRgbF(1.0, 0.5, 0.0));
-    QVERIFY(sendMove(&button, data.get()));
-    QVERIFY(sendDrop(&button, data.get()));
-    const QColor dropped = data->colorData().value<QColor>();
-    const QLxColor expected = QLx::rgbToHsv(1.0F, static_cast<float>(dropped.greenF()), 0.0F);
-    COMPARE_LOG(log, {LogLine(QStringLiteral("finalColorChosen(%1)").arg(asText(expected)))});
-    QVERIFY(button.getColor() == expected);
-    QCOMPARE(button.styleSheet(), look(254, 187, 0));
-
-    // From one button to another, at the precision of the drag data.
-    button.setColor({210, 0.3F, 0.6F});
-    const auto carried = colorData(QLx::toQColorF(button.getColor()));
-    QLxColorButton other;
-    QVERIFY(sendDrop(&other, carried.get()));
-    QVERIFY(std::abs(other.getColor().hue - 210.0F) < 0.05F);
-    QVERIFY(std::abs(other.getColor().saturation - 0.3F) < 1e-4F);
-    QVERIFY(std::abs(other.getColor().value - 0.6F) < 1e-4F);
-}
-
-void TestColorButton::dropOfOtherDataChangesNothing()
-{
-    QLxColorButton button;
-    SignalLog log;
-    watch(log, &button);
-    QMimeData text;
-    text.setText(QStringLiteral("#ff0000"));
-    const QMimeData *const candidates[] = {&text, nullptr};
-    for (const QMimeData *data : candidates) {
-        QVERIFY(!sendEnter(&button, data));
-        QVERIFY(!sendMove(&button, data));
-        QVERIFY(!sendDrop(&button, data));
-    }
-    COMPARE_LOG(log, {});
-    QVERIFY(button.getColor() == (QLxColor{0, 0, 0.8F}));
-}
-
-void TestColorButton::focusFollowsTheDrag()
-{
-    QWidget window;
-    window.setFocusPolicy(Qt::StrongFocus);
-    QLxColorButton button(&window);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    window.setFocus();
-    QMimeData text;
-    text.setText(QStringLiteral("no colour"));
-    QVERIFY(!sendEnter(&button, &text)); // takes the focus whatever is dragged
-    QVERIFY(button.hasFocus());
-    window.setFocus();
-    QVERIFY(sendEnter(&button, colorData(Qt::red).get()));
-    QVERIFY(button.hasFocus());
-    QDragLeaveEvent leave;
-    QApplication::sendEvent(&button, &leave);
-    QVERIFY(!button.hasFocus());
-    QVERIFY(window.hasFocus());
-
-    QLxColorButton alone;
-    alone.show();
-    QApplication::setActiveWindow(&alone);
-    QVERIFY(QTest::qWaitForWindowActive(&alone));
-    QVERIFY(sendEnter(&alone, colorData(Qt::red).get()));
-    QApplication::sendEvent(&alone, &leave);
-    QVERIFY(alone.hasFocus());
-}
-
 void TestColorButton::multiselect()
 {
     QLxColorButton button;
@@ -508,135 +322,6 @@ void TestColorButton::multiselect()
                 QVERIFY(!picture().isNull());
         }
     }
-}
-
-namespace {
-
-/// The ways in which a button comes to emit, by name.
-struct Emitting
-{
-    const char *name;
-    const char *signal;
-    void (*act)(QLxColorButton *button);
-    bool byClosing = false; // inside the dialog's own accepted() or rejected()
-};
-
-const Emitting emittings[] = {
-    {"click by mouse", SIGNAL(colorButtonClicked()), [](QLxColorButton *b) { click(*b); }},
-    {"click by key", SIGNAL(colorButtonClicked()),
-     [](QLxColorButton *b) { QTest::keyClick(b, Qt::Key_Space); }},
-    {"click by program", SIGNAL(colorButtonClicked()), [](QLxColorButton *b) { b->click(); }},
-    {"base class's clicked", SIGNAL(clicked(bool)), [](QLxColorButton *b) { click(*b); }},
-    {"editing", SIGNAL(temporaryColorChosen(QLxColor)),
-     [](QLxColorButton *b) {
-         click(*b);
-         FakeDialogs::current()->edit({1, 1, 1});
-     }},
-    {"accept", SIGNAL(finalColorChosen(QLxColor)),
-     [](QLxColorButton *b) {
-         click(*b);
-         FakeDialogs::current()->accept();
-     },
-     true},
-    {"accepted", SIGNAL(userAccepted()),
-     [](QLxColorButton *b) {
-         click(*b);
-         FakeDialogs::current()->accept();
-     },
-     true},
-    {"reject", SIGNAL(finalColorChosen(QLxColor)),
-     [](QLxColorButton *b) {
-         click(*b);
-         FakeDialogs::current()->reject();
-     },
-     true},
-    {"rejected", SIGNAL(userSkipped()),
-     [](QLxColorButton *b) {
-         click(*b);
-         FakeDialogs::current()->reject();
-     },
-     true},
-    {"drop", SIGNAL(finalColorChosen(QLxColor)),
-     [](QLxColorButton *b) { sendDrop(b, colorData(Qt::red).get()); }},
-};
-
-void emittingRows(bool byClosingToo)
-{
-    QTest::addColumn<int>("index");
-    int index = 0;
-    for (const Emitting &emitting : emittings) {
-        if (byClosingToo || !emitting.byClosing)
-            QTest::newRow(emitting.name) << index;
-        ++index;
-    }
-}
-
-/// Deletes an object when told to.
-class Deleter : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Deleter(QObject *victim)
-        : m_victim(victim)
-    {
-    }
-
-public Q_SLOTS:
-    void strike() { delete m_victim.data(); }
-
-private:
-    QPointer<QObject> m_victim;
-};
-
-} // namespace
-
-void TestColorButton::deletedInsideAnySignal_data()
-{
-    emittingRows(true);
-}
-
-void TestColorButton::deletedInsideAnySignal()
-{
-    QFETCH(int, index);
-    SignalLog log;
-    const FakeDialogs dialogs(&log);
-    QWidget window; // which keeps the dialog
-    const QPointer<QLxColorButton> button = new QLxColorButton(&window);
-    Deleter deleter(button);
-    QVERIFY(connect(button, emittings[index].signal, &deleter, SLOT(strike())));
-    emittings[index].act(button);
-    QVERIFY(!button);
-    // The next button goes on with the dialog as if nothing had happened.
-    QLxColorButton next(&window);
-    watch(log, &next, "next.");
-    click(next);
-    log.take();
-    dialogs.current()->edit({7, 1, 1});
-    COMPARE_LOG(log, {"next.temporaryColorChosen(hsv 7 1 1)"});
-}
-
-void TestColorButton::moduleDeletedInsideAnySignal_data()
-{
-    // The dialog goes with the module, and QDialog does not survive that inside its accepted().
-    emittingRows(false);
-}
-
-void TestColorButton::moduleDeletedInsideAnySignal()
-{
-    QFETCH(int, index);
-    SignalLog log;
-    const FakeDialogs dialogs(&log);
-    auto *const module = new QWidget;
-    module->setObjectName(QStringLiteral("Module"));
-    const QPointer<QLxColorButton> button = new QLxColorButton(module);
-    click(*button);
-    QVERIFY(sharedColorDialog);
-    Deleter deleter(module);
-    QVERIFY(connect(button, emittings[index].signal, &deleter, SLOT(strike())));
-    emittings[index].act(button);
-    QVERIFY(!button);
-    QVERIFY(!sharedColorDialog);
 }
 
 QLX_TEST_MAIN(TestColorButton)
