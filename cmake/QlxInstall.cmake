@@ -38,8 +38,13 @@ install(CODE "
 install(FILES ${PROJECT_BINARY_DIR}/packaging/QLxControls.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  set(plugin_dir "${CMAKE_INSTALL_LIBDIR}/qt5/plugins/designer")
+else()
+  set(plugin_dir "\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/qt5/plugins/designer")
+endif()
 install(CODE "
-  set(plugin_dir \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/qt5/plugins/designer\")
+  set(plugin_dir \"\$ENV{DESTDIR}${plugin_dir}\")
   file(MAKE_DIRECTORY \"\${plugin_dir}\")
   file(CREATE_LINK ../../../libQLxControls.so \"\${plugin_dir}/libQLxControls.so\" SYMBOLIC)
   message(STATUS \"Installing: \${plugin_dir}/libQLxControls.so\")")

@@ -36,14 +36,13 @@ install_missing() {
         as_root=sudo
     fi
     say "installing$missing"
+    mkdir -p build
     # shellcheck disable=SC2086 # lists of words
     { $as_root apt-get -q update && $as_root env DEBIAN_FRONTEND=noninteractive \
-        apt-get -q -y install --no-install-recommends $missing; } > /tmp/qlx-apt.$$ 2>&1 || {
-        tail -n 5 /tmp/qlx-apt.$$ >&2
-        rm -f /tmp/qlx-apt.$$
-        fail "apt could not install$missing"
+        apt-get -q -y install --no-install-recommends $missing; } > build/apt.log 2>&1 || {
+        tail -n 5 build/apt.log >&2
+        say "apt could not install$missing; going on with what is there"
     }
-    rm -f /tmp/qlx-apt.$$
 }
 
 # build PRESET [TARGET...]: configures and builds quietly; shows the output only if that fails.

@@ -5,7 +5,8 @@
 # colour model with every compiler.
 
 set(prefix ${PROJECT_BINARY_DIR}/tests/prefix)
-add_test(NAME install COMMAND ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${prefix})
+add_test(NAME install
+  COMMAND sh -c "rm -rf '${prefix}' && '${CMAKE_COMMAND}' --install '${PROJECT_BINARY_DIR}' --prefix '${prefix}'")
 set_tests_properties(install PROPERTIES FIXTURES_SETUP installed)
 
 # qlx_project_test(NAME SOURCE [OPTIONS -D...] [RUNS command...]): configures, builds and runs a project.

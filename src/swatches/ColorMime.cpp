@@ -13,7 +13,7 @@ namespace QLx {
 
 bool hasColor(const QMimeData *mime)
 {
-    return mime && mime->hasColor();
+    return mime && mime->colorData().value<QColor>().isValid();
 }
 
 QLxColor colorFrom(const QMimeData *mime)

@@ -11,6 +11,7 @@ class QWidget;
 // Colours as drag-and-drop data: Qt's standard colour type, carrying linear floating-point RGB.
 namespace QLx {
 
+/// Whether there is a colour that can be read.
 bool hasColor(const QMimeData *mime);
 /// The dropped colour; no transfer curve is removed. Requires hasColor().
 QLxColor colorFrom(const QMimeData *mime);

@@ -26,6 +26,11 @@ public:
     static SharedColorDialog *create(const QLxColor &color, QWidget *parent);
 
     using QDialog::QDialog;
+    /// From here on sharedColorDialog is null, also for the buttons inside the dialog that go with it.
+    ~SharedColorDialog() override;
+
+    /// As QDialog's, but a receiver of accepted() or rejected() may delete the dialog.
+    void done(int result) override;
 
     virtual void setColor(QLxColor color) = 0;
     virtual QLxColor getColor() const = 0;

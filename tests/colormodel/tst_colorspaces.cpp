@@ -109,6 +109,7 @@ private Q_SLOTS:
     void settingsHaveTheirDefaults();
     void everyOperationEqualsTheReference_data();
     void everyOperationEqualsTheReference();
+    void curvesSwitchWhereTheyShould();
     void hueEdges();
     void tiesAndGreys_data();
     void tiesAndGreys();
@@ -183,6 +184,30 @@ void TestColorSpaces::everyOperationEqualsTheReference()
                                              .arg(double(c.value), 0, 'g', 9)));
     }
     QLx::colorUseGamma = true;
+}
+
+void TestColorSpaces::curvesSwitchWhereTheyShould()
+{
+    // The last floats on each side of every threshold.
+    for (float threshold : {0.0031308F, 0.04045F, 0.008856452F, 0.20689656F}) {
+        float x = threshold;
+        for (int i = 0; i < 4; ++i)
+            x = std::nextafter(x, 0.0F);
+        for (int i = 0; i < 9; ++i, x = std::nextafter(x, 1.0F)) {
+            QVERIFY(same(QLx::linearToSrgb(x), Reference::linearToSrgb(x)));
+            QVERIFY(same(QLx::srgbToLinear(x), Reference::srgbToLinear(x)));
+            const Reference::Triple grey{x, x, x}; // Y is not quite x, but near
+            QVERIFY(same(labOf(grey), Reference::rgbToLab(grey)));
+            const Reference::Triple lab{116.0F * x - 16.0F, 0.0F, 0.0F};
+            QVERIFY(same(hsvOfLab(lab), Reference::labToHsv(lab)));
+        }
+    }
+    // The middle curve again, along its own argument.
+    for (float y = 0.0088F; y < 0.0089F; y = std::nextafter(y, 1.0F)) {
+        const Reference::Triple grey{y, y, y};
+        if (!same(labOf(grey), Reference::rgbToLab(grey)))
+            QCOMPARE(y, 0.0F);
+    }
 }
 
 void TestColorSpaces::hueEdges()

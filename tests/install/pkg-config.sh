@@ -13,6 +13,7 @@ cat > "$work/program.cpp" <<'EOF'
 #include <QLxColorSpaces.h>
 int main() { return QLx::toQColorRaw({120, 1, 1}) == QColor(0, 255, 0) ? 0 : 1; }
 EOF
-# shellcheck disable=SC2046 # the flags are to be split
-${CXX:-c++} -std=c++17 -fPIC "$work/program.cpp" -o "$work/program" $(pkg-config --cflags --libs QLxControls)
+# The flags are quoted where a folder's name has blanks.
+eval "set -- $(pkg-config --cflags --libs QLxControls)"
+"${CXX:-c++}" -std=c++17 -fPIC "$work/program.cpp" -o "$work/program" "$@"
 LD_LIBRARY_PATH=$(pkg-config --variable=libdir QLxControls) "$work/program"

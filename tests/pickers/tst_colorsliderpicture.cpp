@@ -72,7 +72,7 @@ QImage expectedPicture(const QLxColorSlider &slider, const Look &look)
     p.setBrush(Qt::NoBrush);
     const int n = w - 2;
     const int mode = slider.getMode();
-    if (n >= 2 && mode >= 0 && mode <= 8) {
+    if (n >= 2 && (!look.enabled || (mode >= 0 && mode <= 8))) {
         for (int x = 1; x <= n - 1; ++x) {
             const F t = F(static_cast<float>(x - 1)) / F(static_cast<float>(n));
             const QColor color = look.enabled ? columnColor(mode, slider.getMaxColor(), t)
@@ -256,7 +256,10 @@ void TestColorSliderPicture::modeWithoutRamp()
     slider.resize(62, 16);
     for (int mode : {-1, 9, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
         slider.setMode(static_cast<QLxColorSlider::Mode>(mode));
+        slider.setEnabled(true);
         VERIFY_SAME(slider);
+        slider.setEnabled(false); // greys, as in any other mode
+        VERIFY_SAME(slider, {false, false, {}});
     }
 }
 

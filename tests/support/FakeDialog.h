@@ -3,6 +3,7 @@
 #ifndef FAKEDIALOG_H
 #define FAKEDIALOG_H
 
+#include "QLxColorButton.h"
 #include "SharedColorDialog_p.h"
 #include "SignalLog.h"
 
@@ -17,6 +18,7 @@ public:
         , m_color(color)
         , m_log(log)
     {
+        new QLxColorButton(this); // like the real one, it holds swatches that go with it
         m_log->note(QStringLiteral("dialog: made for %1 in %2")
                         .arg(asText(color), parent ? parent->objectName() : QStringLiteral("nothing")));
     }

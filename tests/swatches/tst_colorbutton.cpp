@@ -28,6 +28,7 @@ private Q_SLOTS:
     void clickWithoutDialog();
     void clickOpensSharedDialog();
     void twoButtonsInTurn();
+    void dialogClosedBySignalAlone();
     void dialogIsTold();
     void dialogParent_data();
     void dialogParent();
@@ -182,6 +183,28 @@ void TestColorButton::twoButtonsInTurn()
     log.take();
     dialogs.current()->edit({2, 1, 1});
     COMPARE_LOG(log, {"second.temporaryColorChosen(hsv 2 1 1)"});
+}
+
+void TestColorButton::dialogClosedBySignalAlone()
+{
+    // A dialog that only says that it was accepted is hidden by the button, after it was told.
+    SignalLog log;
+    const FakeDialogs dialogs(&log);
+    QLxColorButton button;
+    click(button);
+    watch(log, &button);
+    QObject::connect(&button, &QLxColorButton::finalColorChosen, log.context(),
+                     [&](QLxColor color) { QVERIFY(button.getColor() == color); });
+    dialogs.current()->edit({10, 1, 1});
+    log.take();
+    Q_EMIT dialogs.current()->accepted();
+    COMPARE_LOG(log,
+                {"dialog: flag true", "dialog: hidden", "finalColorChosen(hsv 10 1 1)", "userAccepted()"});
+    click(button);
+    log.take();
+    Q_EMIT dialogs.current()->rejected();
+    COMPARE_LOG(log,
+                {"dialog: flag true", "dialog: hidden", "finalColorChosen(hsv 10 1 1)", "userSkipped()"});
 }
 
 void TestColorButton::dialogIsTold()

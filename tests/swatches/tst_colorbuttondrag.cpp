@@ -16,7 +16,6 @@ struct Emitting
     const char *name;
     const char *signal;
     void (*act)(QLxColorButton *button);
-    bool byClosing = false; // inside the dialog's own accepted() or rejected()
 };
 
 const Emitting emittings[] = {
@@ -34,39 +33,32 @@ const Emitting emittings[] = {
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->accept();
-     },
-     true},
+     }},
     {"accepted", SIGNAL(userAccepted()),
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->accept();
-     },
-     true},
+     }},
     {"reject", SIGNAL(finalColorChosen(QLxColor)),
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->reject();
-     },
-     true},
+     }},
     {"rejected", SIGNAL(userSkipped()),
      [](QLxColorButton *b) {
          click(*b);
          FakeDialogs::current()->reject();
-     },
-     true},
+     }},
     {"drop", SIGNAL(finalColorChosen(QLxColor)),
      [](QLxColorButton *b) { sendDrop(b, colorData(Qt::red).get()); }},
 };
 
-void emittingRows(bool byClosingToo)
+void emittingRows()
 {
     QTest::addColumn<int>("index");
     int index = 0;
-    for (const Emitting &emitting : emittings) {
-        if (byClosingToo || !emitting.byClosing)
-            QTest::newRow(emitting.name) << index;
-        ++index;
-    }
+    for (const Emitting &emitting : emittings)
+        QTest::newRow(emitting.name) << index++;
 }
 
 /// Deletes an object when told to.
@@ -120,6 +112,7 @@ void TestColorButtonDrag::dragCarriesTheColor()
     const auto color = drag->mimeData()->colorData().value<QColor>();
     QCOMPARE(color, QColor::fromRgbF(0.75, 1.0, 0.75)); // linear and clamped
     QCOMPARE(color.alpha(), 255);
+    QCOMPARE(drag->supportedActions(), Qt::CopyAction);
     QCOMPARE(drag->pixmap().size(), QSize(30, 20));
     QCOMPARE(drag->pixmap().toImage().pixelColor(15, 10), QLx::toQColor(button.getColor()));
     pointer.release({50, 3});
@@ -135,7 +128,10 @@ void TestColorButtonDrag::shortMoveIsNoDrag()
     Pointer pointer(&button);
     pointer.move({300, 3}); // no press before
     pointer.press({3, 3});
-    pointer.move({3 + QApplication::startDragDistance(), 3}); // not farther than the distance
+    const int distance = QApplication::startDragDistance();
+    pointer.move({3 + distance, 3}); // not farther than the distance
+    pointer.move({3, 3 - distance});
+    pointer.move({3 + distance / 2, 3 + distance - distance / 2});
     QVERIFY(!button.findChild<QDrag *>());
     pointer.release({3, 3});
     COMPARE_LOG(log, {"colorButtonClicked()"});
@@ -146,6 +142,8 @@ void TestColorButtonDrag::dropTakesTheColor()
     QLxColorButton button;
     SignalLog log;
     watch(log, &button);
+    QObject::connect(&button, &QLxColorButton::finalColorChosen, log.context(),
+                     [&](QLxColor color) { QVERIFY(button.getColor() == color); });
     const auto data = colorData(QColor::fromRgbF(1.0, 0.5, 0.0));
     QVERIFY(sendMove(&button, data.get()));
     QVERIFY(sendDrop(&button, data.get()));
@@ -172,7 +170,13 @@ void TestColorButtonDrag::dropOfOtherDataChangesNothing()
     watch(log, &button);
     QMimeData text;
     text.setText(QStringLiteral("#ff0000"));
-    const QMimeData *const candidates[] = {&text, nullptr};
+    QMimeData garbage; // says that it is a colour, and is none
+    garbage.setData(QStringLiteral("application/x-color"), "garbage");
+    QMimeData empty;
+    empty.setData(QStringLiteral("application/x-color"), {});
+    QMimeData invalid;
+    invalid.setColorData(QColor());
+    const QMimeData *const candidates[] = {&text, &garbage, &empty, &invalid, nullptr};
     for (const QMimeData *data : candidates) {
         QVERIFY(!sendEnter(&button, data));
         QVERIFY(!sendMove(&button, data));
@@ -214,7 +218,7 @@ void TestColorButtonDrag::focusFollowsTheDrag()
 
 void TestColorButtonDrag::deletedInsideAnySignal_data()
 {
-    emittingRows(true);
+    emittingRows();
 }
 
 void TestColorButtonDrag::deletedInsideAnySignal()
@@ -239,8 +243,7 @@ void TestColorButtonDrag::deletedInsideAnySignal()
 
 void TestColorButtonDrag::moduleDeletedInsideAnySignal_data()
 {
-    // The dialog goes with the module, and QDialog does not survive that inside its accepted().
-    emittingRows(false);
+    emittingRows();
 }
 
 void TestColorButtonDrag::moduleDeletedInsideAnySignal()
