@@ -61,6 +61,19 @@ void emittingRows()
         QTest::newRow(emitting.name) << index++;
 }
 
+/// Why a widget got and lost the focus.
+class FocusReasons : public QObject
+{
+public:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+            seen.append(static_cast<QFocusEvent *>(event)->reason());
+        return false;
+    }
+    QVector<Qt::FocusReason> seen;
+};
+
 /// Deletes an object when told to.
 class Deleter : public QObject
 {
@@ -191,9 +204,13 @@ void TestColorButtonDrag::focusFollowsTheDrag()
     QWidget window;
     window.setFocusPolicy(Qt::StrongFocus);
     QLxColorButton button(&window);
+    QWidget other(&window);
+    other.setFocusPolicy(Qt::StrongFocus);
     window.show();
     QApplication::setActiveWindow(&window);
     QVERIFY(QTest::qWaitForWindowActive(&window));
+    FocusReasons reasons;
+    button.installEventFilter(&reasons);
     window.setFocus();
     QMimeData text;
     text.setText(QStringLiteral("no colour"));
@@ -206,6 +223,12 @@ void TestColorButtonDrag::focusFollowsTheDrag()
     QApplication::sendEvent(&button, &leave);
     QVERIFY(!button.hasFocus());
     QVERIFY(window.hasFocus());
+    QVERIFY(sendEnter(&button, colorData(Qt::red).get()));
+    other.setFocus();
+    QApplication::sendEvent(&button, &leave); // without the focus, it has none to give away
+    QVERIFY(other.hasFocus());
+    QCOMPARE(reasons.seen, QVector<Qt::FocusReason>(reasons.seen.size(), Qt::OtherFocusReason));
+    QVERIFY(reasons.seen.size() >= 6);
 
     QLxColorButton alone;
     alone.show();
