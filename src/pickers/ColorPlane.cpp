@@ -71,6 +71,13 @@ Kernel &chosenKernel()
     return chosen;
 }
 
+/// The channel along each axis, from left to right and from bottom to top.
+struct PlaneAxes
+{
+    int across;
+    int up;
+};
+
 constexpr PlaneAxes Axes[] = {{1, 2}, {0, 2}, {0, 1}, {4, 5}, {3, 5}, {3, 4}, {7, 8}, {8, 6}, {7, 6}};
 
 /// Where a number of pixels, usually not whole, falls in a row of them.
@@ -82,11 +89,6 @@ int markerPixel(float position, int pixels)
 }
 
 } // namespace
-
-PlaneAxes planeAxes(int plane)
-{
-    return Axes[plane];
-}
 
 void fillColorPlane(int plane, float constant, QImage &image)
 {

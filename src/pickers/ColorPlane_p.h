@@ -17,14 +17,6 @@ class QImage;
 // colour space along the axes. Planes are numbered 0 to 8 by their constant channel, as in ColorChannel_p.h.
 namespace QLx {
 
-/// The channel along each axis, from left to right and from bottom to top.
-struct PlaneAxes
-{
-    int across;
-    int up;
-};
-PlaneAxes planeAxes(int plane);
-
 /// Fills an image of Format_RGB32 with the plane at that value of its constant channel. HSV and RGB planes
 /// show linear light; L*a*b* planes are always sRGB-encoded. Each component is clamped, times 255, truncated;
 /// a NaN gives 0. An image without pixels, or a plane outside 0 to 8, is left alone.
