@@ -49,6 +49,7 @@ struct Look
     bool enabled = true;
     bool multiselect = false;
     QString text;
+    QPalette::ColorGroup group = QPalette::Active; // while enabled
 };
 
 QImage expectedPicture(const QLxColorSlider &slider, const Look &look)
@@ -60,7 +61,7 @@ QImage expectedPicture(const QLxColorSlider &slider, const Look &look)
     if (image.isNull())
         return image;
     const auto role = [&](QPalette::ColorRole r) {
-        return slider.palette().color(look.enabled ? QPalette::Active : QPalette::Disabled, r);
+        return slider.palette().color(look.enabled ? look.group : QPalette::Disabled, r);
     };
     const auto frame = [](QPainter &p, const QColor &color, const QPoint &from, const QPoint &to) {
         p.setPen(QPen(color, 1, Qt::SolidLine));
@@ -170,6 +171,7 @@ private Q_SLOTS:
     void tinySizes();
     void modeWithoutRamp();
     void disabledTexts();
+    void windowInTheBackground();
     void multiselect();
     void colorsThatAreNone();
     void hugeSizes();
@@ -284,6 +286,23 @@ void TestColorSliderPicture::disabledTexts()
     slider.setUseSpectrum(true);
     slider.setEnabled(true);
     VERIFY_SAME(slider, {true, false, {}});
+}
+
+void TestColorSliderPicture::windowInTheBackground()
+{
+    QWidget window;
+    QLxColorSlider slider(&window);
+    slider.setPalette(motley());
+    slider.resize(62, 16);
+    window.show();
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(!slider.isActiveWindow());
+    Look look;
+    look.group = QPalette::Inactive;
+    VERIFY_SAME(slider, look);
 }
 
 void TestColorSliderPicture::multiselect()

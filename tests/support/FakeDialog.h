@@ -7,6 +7,8 @@
 #include "SharedColorDialog_p.h"
 #include "SignalLog.h"
 
+#include <QEvent>
+
 /// Stands in for the colour dialog and logs what the buttons do with it.
 class FakeDialog : public SharedColorDialog
 {
@@ -47,6 +49,12 @@ Q_SIGNALS:
     void colorChanged(QLxColor color);
 
 protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::ZOrderChange)
+            m_log->note(QStringLiteral("dialog: raised"));
+        return SharedColorDialog::event(event);
+    }
     void showEvent(QShowEvent *event) override
     {
         m_log->note(QStringLiteral("dialog: shown"));

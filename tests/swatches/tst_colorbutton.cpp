@@ -126,7 +126,8 @@ void TestColorButton::clickOpensSharedDialog()
     watch(log, &button);
     click(button);
     COMPARE_LOG(log, {"colorButtonClicked()", "dialog: made for hsv 0 0.5 0.5 in Module", "dialog: flag true",
-                      "dialog: shown", "dialog: setColor hsv 0 0.5 0.5, visible true, signals blocked true"});
+                      "dialog: shown", "dialog: raised",
+                      "dialog: setColor hsv 0 0.5 0.5, visible true, signals blocked true"});
     QVERIFY(!dialogs.current()->signalsBlocked());
     QVERIFY(!dialogs.current()->isModal());
     QVERIFY(button.getColor() == (QLxColor{-30.0F, 0.5F, 0.5F}));
@@ -164,12 +165,12 @@ void TestColorButton::twoButtonsInTurn()
     int outsiders = 0;
     click(first);
     QObject::connect(dialogs.current(), &QDialog::accepted, log.context(), [&] { ++outsiders; });
-    COMPARE_LOG(log,
-                {"first.colorButtonClicked()", "dialog: made for hsv 60 1 1 in window", "dialog: flag true",
-                 "dialog: shown", "dialog: setColor hsv 60 1 1, visible true, signals blocked true"});
+    COMPARE_LOG(log, {"first.colorButtonClicked()", "dialog: made for hsv 60 1 1 in window",
+                      "dialog: flag true", "dialog: shown", "dialog: raised",
+                      "dialog: setColor hsv 60 1 1, visible true, signals blocked true"});
     const FakeDialog *const dialog = dialogs.current();
     click(second);
-    COMPARE_LOG(log, {"second.colorButtonClicked()", "dialog: flag true",
+    COMPARE_LOG(log, {"second.colorButtonClicked()", "dialog: flag true", "dialog: raised",
                       "dialog: setColor hsv 240 1 1, visible true, signals blocked true"});
     QCOMPARE(dialogs.current(), dialog);
     dialogs.current()->edit({1, 1, 1});
@@ -277,7 +278,7 @@ void TestColorButton::dialogGoneWithItsParent()
     COMPARE_LOG(log,
                 {"survivor.colorButtonClicked()",
                  LogLine(QStringLiteral("dialog: made for hsv 0 0 %1 in QLxColorButton").arg(asText(0.8F))),
-                 "dialog: flag true", "dialog: shown",
+                 "dialog: flag true", "dialog: shown", "dialog: raised",
                  LogLine(QStringLiteral("dialog: setColor hsv 0 0 %1, visible true, signals blocked true")
                              .arg(asText(0.8F)))});
 }
