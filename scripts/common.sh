@@ -4,7 +4,7 @@
 #
 # Shared by run, check and lint: sourced from the project's folder, with $name set to the command's name.
 
-build_packages='g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools fonts-dejavu-core'
+build_packages='g++ cmake ninja-build pkg-config qtbase5-dev qtscript5-dev qttools5-dev qttools5-dev-tools fonts-dejavu-core'
 test_packages='clang xvfb xdotool openbox imagemagick'
 lint_packages='clang clang-format clang-tidy clazy shellcheck reuse gcovr git libbenchmark-dev'
 

@@ -7,6 +7,9 @@
 #include "QLxColorField.h"
 #include "QLxColorManipulator.h"
 #include "QLxColorSlider.h"
+#include "QLxComboBox.h"
+#include "QLxDoubleSpiner.h"
+#include "QLxSpiner.h"
 #include "TestCase.h"
 
 #include <QMetaEnum>
@@ -124,6 +127,39 @@ const Class classes[] = {
      "+ temporaryColorChanged(QLxColor)\n"
      "+ finalColorChanged(QLxColor)\n"
      "+ cancelledPressed()\n",
+     "", ""},
+    {&QLxDoubleSpiner::staticMetaObject, "QDoubleSpinBox",
+     "s singleStepChanged(double)\n"
+     "s mouseButtonPressed()\n"
+     "s mouseButtonReleased()\n"
+     "s relativeOperatorChanged(RelativeOperator,double)\n"
+     "s relativeOperatorApplied(RelativeOperator,double)\n"
+     "s focusGained()\n"
+     "+ setSingleStep(double)\n"
+     "+ stepEditingFinished()\n"
+     "+ setDisplayDecimals(int)\n"
+     "+ setUseExactDisplayDecimals(bool)\n"
+     "- finishedEditing()\n"
+     "- changedValue(QString)\n"
+     "- checkInput(QString)\n"
+     "- updateVisualInputFeedback()\n"
+     "- setCurrentRelativeOperator(RelativeOperator,double)\n",
+     "bool showStepHint READ WRITE\n"
+     "int displayDecimals READ WRITE\n"
+     "bool useExactDisplayDecimals READ WRITE\n"
+     "bool displaySceneUnit READ WRITE\n",
+     ""},
+    {&QLxSpiner::staticMetaObject, "QSpinBox",
+     "s singleStepChanged(int)\n"
+     "+ setSingleStep(int)\n"
+     "- finishedEditing()\n",
+     "bool showStepHint READ WRITE\n"
+     "bool autoStepsOnMousePress READ WRITE\n"
+     "bool displaySceneUnit READ WRITE\n",
+     ""},
+    {&QLxComboBox::staticMetaObject, "QComboBox",
+     "s popupHidden()\n"
+     "s popupShown(int)\n",
      "", ""},
 };
 

@@ -4,6 +4,7 @@
 #define SIGNALLOG_H
 
 #include "QLxColor.h"
+#include "QLxRelativeOperator.h"
 
 #include <QObject>
 #include <QStringList>
@@ -14,6 +15,15 @@
 inline QString asText(float x)
 {
     return QString::number(static_cast<double>(x), 'g', 9);
+}
+inline QString asText(double x)
+{
+    return QString::number(x, 'g', 17);
+}
+inline QString asText(RelativeOperator x)
+{
+    static const char *const names[] = {"None", "Add", "Subtract", "Multiply", "Divide", "Assign"};
+    return QString::fromLatin1(names[x]);
 }
 inline QString asText(int x)
 {
@@ -43,12 +53,12 @@ public:
     template <typename Sender, typename Class, typename... Args>
     void watch(Sender *sender, void (Class::*signal)(Args...), const char *name)
     {
-        const QString text = QString::fromLatin1(name);
-        QObject::connect(sender, signal, &m_context, [this, text](Args... args) {
-            QStringList payload;
-            (payload.append(asText(args)), ...);
-            note(text + QLatin1Char('(') + payload.join(QStringLiteral(", ")) + QLatin1Char(')'));
-        });
+        QObject::connect(sender, signal, &m_context, line<Args...>(name));
+    }
+    template <typename Sender, typename Class, typename... Args>
+    void watch(Sender *sender, void (Class::*signal)(Args...) const, const char *name)
+    {
+        QObject::connect(sender, signal, &m_context, line<Args...>(name));
     }
 
     void note(const QString &line) { m_lines.append(line); }
@@ -64,6 +74,16 @@ public:
     }
 
 private:
+    template <typename... Args>
+    auto line(const char *name)
+    {
+        return [this, text = QString::fromLatin1(name)](Args... args) {
+            QStringList payload;
+            (payload.append(asText(args)), ...);
+            note(text + QLatin1Char('(') + payload.join(QStringLiteral(", ")) + QLatin1Char(')'));
+        };
+    }
+
     QObject m_context;
     QStringList m_lines;
 };

@@ -1,0 +1,506 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#include "QLxDoubleSpiner.h"
+
+#include "DragCursor_p.h"
+#include "Expression_p.h"
+#include "MenuPosition_p.h"
+#include "NumberText_p.h"
+#include "RelativeOperator_p.h"
+#include "SceneUnitSuffix_p.h"
+#include "ValueDrag_p.h"
+#include "WhileAlive_p.h"
+
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QStyle>
+#include <QTimer>
+#include <QVariant>
+#include <QWidgetAction>
+
+#include <utility>
+
+namespace {
+
+const char acceptableProperty[] = "inputAcceptable";
+const int feedbackDelay = 800; // milliseconds
+const double smallestStep = 1e-8;
+
+} // namespace
+
+class QLxDoubleSpinerPrivate
+{
+public:
+    explicit QLxDoubleSpinerPrivate(QLxDoubleSpiner *q)
+        : q_ptr(q)
+    {
+    }
+
+    void leaveStepEditing();
+
+    double savedValue = 0.0;
+    double savedMinimum = 0.0;
+    double savedMaximum = 0.0;
+    int displayDecimals = 6;
+    bool useExactDisplayDecimals = false;
+    bool mouseButtonHeld = false;
+    bool stepEditing = false;
+    int lastMouseX = 0;
+    int dragMode = QLx::NoDrag;
+    QString savedPrefix;
+    QString savedSuffix;
+    bool showStepHint = true;
+    QMenu *stepMenu = nullptr;
+    QTimer *feedbackTimer = nullptr;
+    RelativeOperatorHandlingMode handlingMode = ApplyRelativeOperator;
+    bool enterPressed = false;
+    bool inputAcceptable = true;
+    RelativeOperator currentOperator = RelOpNone;
+    double currentOperand = 0.0;
+    bool validatingInput = false;
+    bool displaySceneUnit = false;
+    QLxDoubleSpiner *q_ptr;
+
+    QLx::DragCursor dragCursor;
+    bool reporting = false;      // inside relativeOperatorApplied() of a finished edit
+    bool focusAnnounced = false; // focusGained() was emitted for the event that is being delivered
+};
+
+void QLxDoubleSpinerPrivate::leaveStepEditing()
+{
+    q_ptr->setSingleStep(q_ptr->value());
+    q_ptr->setMinimum(savedMinimum);
+    q_ptr->setMaximum(savedMaximum);
+    q_ptr->setValue(savedValue);
+    q_ptr->setPrefix(savedPrefix);
+    q_ptr->setSuffix(savedSuffix);
+    stepEditing = false;
+}
+
+std::set<QLxDoubleSpiner *> QLxDoubleSpiner::s_instancesWithSceneUnit;
+
+QLxDoubleSpiner::QLxDoubleSpiner(QWidget *parent)
+    : QDoubleSpinBox(parent)
+    , m_private(std::make_unique<QLxDoubleSpinerPrivate>(this))
+{
+    setFocusPolicy(Qt::WheelFocus);
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    setRange(-2147483647.0, 2147483647.0);
+    setKeyboardTracking(false);
+    setLocale(QLocale(QLocale::C, QLocale::AnyCountry));
+    setDecimals(10);
+    lineEdit()->installEventFilter(this);
+    connect(this, &QLxDoubleSpiner::editingFinished, this, &QLxDoubleSpiner::finishedEditing);
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // the signal that carries the text; its successor has no value in it
+        connect(this, QOverload<const QString &>::of(&QLxDoubleSpiner::valueChanged), this,
+                &QLxDoubleSpiner::changedValue);
+    QT_WARNING_POP
+    connect(this, &QLxDoubleSpiner::relativeOperatorChanged, this,
+            &QLxDoubleSpiner::setCurrentRelativeOperator);
+    connect(lineEdit(), &QLineEdit::textEdited, this, &QLxDoubleSpiner::checkInput);
+}
+
+QLxDoubleSpiner::~QLxDoubleSpiner()
+{
+    s_instancesWithSceneUnit.erase(this);
+}
+
+void QLxDoubleSpiner::setRelativeOperatorHandlingMode(RelativeOperatorHandlingMode mode)
+{
+    d_func()->handlingMode = mode;
+}
+
+void QLxDoubleSpiner::reapplyStyle()
+{
+    style()->unpolish(this);
+    style()->polish(this);
+    update();
+}
+
+// Text
+
+QValidator::State QLxDoubleSpiner::validate(QString &input, int &pos) const
+{
+    const QLxDoubleSpinerPrivate *const d = d_func();
+    const QString text = QLx::cleanedText(input, prefix(), suffix());
+    if (d->validatingInput)
+        resetCurrentRelativeOperator();
+    const QLx::TextForm form = QLx::textForm(text);
+    if (form == QLx::TextForm::Forbidden)
+        return QValidator::Invalid;
+    if (form == QLx::TextForm::Number)
+        return QDoubleSpinBox::validate(input, pos);
+    RelativeOperator op = RelOpNone;
+    double operand = 0.0;
+    if (form == QLx::TextForm::RelativeOperator && QLx::parseRelativeOperator(text, op, operand)) {
+        if (d->validatingInput)
+            Q_EMIT relativeOperatorChanged(op, operand);
+        if (d->handlingMode == ApplyRelativeOperator)
+            return QValidator::Acceptable;
+        if (d->handlingMode == EmitRelativeOperator)
+            return QValidator::Intermediate; // so that the base class never commits it
+    }
+    return QLx::evaluateExpression(text) ? QValidator::Acceptable : QValidator::Intermediate;
+}
+
+double QLxDoubleSpiner::valueFromText(const QString &text) const
+{
+    const QString cleaned = QLx::cleanedText(text, prefix(), suffix());
+    RelativeOperator op = RelOpNone;
+    double operand = 0.0;
+    const bool relative = d_func()->handlingMode == ApplyRelativeOperator && cleaned.size() >= 3 &&
+                          QLx::parseRelativeOperator(cleaned, op, operand);
+    const double number = relative ? QLx::appliedRelativeOperator(op, value(), operand)
+                                   : QLx::evaluateExpression(cleaned).value_or(0.0);
+    return QLx::clampedNumber(number, minimum(), maximum());
+}
+
+QString QLxDoubleSpiner::textFromValue(double value) const
+{
+    return QLx::numberText(value, displayDecimals(), useExactDisplayDecimals(), locale());
+}
+
+void QLxDoubleSpiner::checkInput(const QString &text)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    QString input = text;
+    int pos = 0;
+    d->validatingInput = true;
+    const QValidator::State state = validate(input, pos);
+    d->validatingInput = false;
+    d->inputAcceptable = state == QValidator::Acceptable || d->currentOperator != RelOpNone;
+    if (!d->feedbackTimer) {
+        d->feedbackTimer = new QTimer(this);
+        d->feedbackTimer->setSingleShot(true);
+        connect(d->feedbackTimer, SIGNAL(timeout()), this, SLOT(updateVisualInputFeedback()));
+    }
+    if (d->inputAcceptable) {
+        d->feedbackTimer->stop();
+        resetVisualInputFeedback();
+    } else {
+        d->feedbackTimer->start(feedbackDelay);
+    }
+}
+
+void QLxDoubleSpiner::updateVisualInputFeedback()
+{
+    const QVariant wanted = d_func()->inputAcceptable ? QVariant() : QVariant(false);
+    if (property(acceptableProperty).isValid() == wanted.isValid())
+        return;
+    setProperty(acceptableProperty, wanted);
+    reapplyStyle();
+}
+
+void QLxDoubleSpiner::resetVisualInputFeedback()
+{
+    if (!property(acceptableProperty).isValid())
+        return;
+    setProperty(acceptableProperty, QVariant());
+    reapplyStyle();
+}
+
+// Relative operators
+
+void QLxDoubleSpiner::setCurrentRelativeOperator(RelativeOperator op, double operand)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    if (d->handlingMode != EmitRelativeOperator)
+        return;
+    d->currentOperator = op;
+    d->currentOperand = operand;
+}
+
+void QLxDoubleSpiner::resetCurrentRelativeOperator() const
+{
+    if (d_func()->handlingMode == EmitRelativeOperator)
+        Q_EMIT relativeOperatorChanged(RelOpNone, 0.0);
+}
+
+void QLxDoubleSpiner::changedValue(const QString & /*text*/)
+{
+    resetCurrentRelativeOperator();
+}
+
+void QLxDoubleSpiner::emitRelativeValue()
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    if (d->handlingMode != EmitRelativeOperator || d->currentOperator == RelOpNone)
+        return;
+    d->reporting = true;
+    whileAlive(
+        this, [&] { Q_EMIT relativeOperatorApplied(d->currentOperator, d->currentOperand); },
+        [&] {
+            d->reporting = false;
+            Q_EMIT relativeOperatorChanged(RelOpNone, 0.0);
+        });
+}
+
+void QLxDoubleSpiner::finishedEditing()
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    if (d->reporting)
+        return; // the receiver of the report took the focus away, which finishes the same edit once more
+    if (d->stepEditing)
+        d->leaveStepEditing();
+    if (d->handlingMode == EmitRelativeOperator && d->enterPressed && d->currentOperator == RelOpNone) {
+        d->currentOperator = RelOpAssign;
+        d->currentOperand = value();
+    }
+    whileAlive(
+        this, [this] { emitRelativeValue(); },
+        [&] {
+            if (d->feedbackTimer)
+                d->feedbackTimer->stop();
+            resetVisualInputFeedback();
+        });
+}
+
+// Keys and focus
+
+void QLxDoubleSpiner::keyPressEvent(QKeyEvent *event)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    d->enterPressed = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() != Qt::Key_Comma) {
+        QDoubleSpinBox::keyPressEvent(event);
+        return;
+    }
+    QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, QStringLiteral("."));
+    QAbstractSpinBox::keyPressEvent(&point);
+    event->setAccepted(point.isAccepted());
+}
+
+void QLxDoubleSpiner::announceFocus()
+{
+    d_func()->enterPressed = false;
+    Q_EMIT focusGained();
+}
+
+void QLxDoubleSpiner::focusInEvent(QFocusEvent *event)
+{
+    if (std::exchange(d_func()->focusAnnounced, false) || whileAlive(this, [this] { announceFocus(); }))
+        QDoubleSpinBox::focusInEvent(event);
+}
+
+void QLxDoubleSpiner::focusOutEvent(QFocusEvent *event)
+{
+    d_func()->enterPressed = false;
+    QDoubleSpinBox::focusOutEvent(event);
+}
+
+bool QLxDoubleSpiner::event(QEvent *event)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        // Announced here, because QWidget goes on with itself after focusInEvent(), where the receiver may
+        // have deleted the box.
+        if (!whileAlive(this, [this] { announceFocus(); }))
+            return true;
+        d->focusAnnounced = true;
+        break;
+    case QEvent::EnabledChange:
+    case QEvent::Hide:
+        if (isEnabled() && event->type() == QEvent::EnabledChange)
+            break;
+        d->mouseButtonHeld = false; // the release will not come, or will not be looked at
+        d->dragMode = QLx::NoDrag;
+        d->dragCursor.giveBack();
+        break;
+    case QEvent::ReadOnlyChange:
+        if (isReadOnly())
+            d->dragCursor.giveBack();
+        break;
+    default:
+        break;
+    }
+    return QDoubleSpinBox::event(event);
+}
+
+// Mouse
+
+bool QLxDoubleSpiner::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != lineEdit())
+        return QDoubleSpinBox::eventFilter(watched, event);
+    if (testAttribute(Qt::WA_Disabled))
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        return pressMouse(static_cast<const QMouseEvent *>(event));
+    case QEvent::MouseMove:
+        return moveMouse(static_cast<const QMouseEvent *>(event));
+    case QEvent::MouseButtonRelease:
+        releaseMouse(static_cast<const QMouseEvent *>(event));
+        return true;
+    default:
+        return QDoubleSpinBox::eventFilter(watched, event);
+    }
+}
+
+bool QLxDoubleSpiner::pressMouse(const QMouseEvent *event)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    const Qt::MouseButton button = event->button();
+    d->mouseButtonHeld = true;
+    d->lastMouseX = event->x();
+    if (!whileAlive(this, [this] { Q_EMIT mouseButtonPressed(); }))
+        return true;          // so that the event goes nowhere near the text that went with the box
+    if (d->mouseButtonHeld) { // unless the receiver hid or disabled the box
+        if (button == Qt::MiddleButton) {
+            d->dragMode = QLx::MiddleDrag;
+            if (!isReadOnly())
+                d->dragCursor.push(Qt::SizeHorCursor);
+        } else if (button == Qt::RightButton) {
+            d->dragMode = QLx::RightDrag;
+        } else if (button == Qt::LeftButton) {
+            d->dragMode = QLx::LeftDrag;
+        }
+    }
+    return button != Qt::RightButton && button != Qt::LeftButton;
+}
+
+bool QLxDoubleSpiner::moveMouse(const QMouseEvent *event)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    if (!d->mouseButtonHeld)
+        return false;
+    const double delta = QLx::dragDelta(singleStep(), d->lastMouseX, event->x());
+    d->lastMouseX = event->x();
+    if (delta != 0.0 && d->dragMode == QLx::MiddleDrag && !isReadOnly() &&
+        !whileAlive(this, [&] { dragBy(delta); }))
+        return true;
+    return d->dragMode != QLx::LeftDrag && d->dragMode != QLx::RightDrag;
+}
+
+void QLxDoubleSpiner::dragBy(double delta)
+{
+    const QLxDoubleSpinerPrivate *const d = d_func();
+    if (!d->stepEditing && d->handlingMode == EmitRelativeOperator) {
+        Q_EMIT relativeOperatorApplied(RelOpAdd, delta);
+        return;
+    }
+    const bool blocked = d->stepEditing ? blockSignals(true) : signalsBlocked();
+    setValue(value() + delta);
+    blockSignals(blocked);
+}
+
+void QLxDoubleSpiner::releaseMouse(const QMouseEvent *event)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    d->lastMouseX = event->x();
+    d->mouseButtonHeld = false;
+    d->dragMode = QLx::NoDrag;
+    if (!isReadOnly())
+        d->dragCursor.pop(); // whichever button it was
+    Q_EMIT mouseButtonReleased();
+}
+
+// Step, display and scene unit
+
+void QLxDoubleSpiner::setSingleStep(double value)
+{
+    if (!(value >= smallestStep))
+        return;
+    QDoubleSpinBox::setSingleStep(value);
+    Q_EMIT singleStepChanged(value);
+}
+
+void QLxDoubleSpiner::stepEditingFinished()
+{
+    if (d_func()->stepMenu)
+        d_func()->stepMenu->hide();
+}
+
+void QLxDoubleSpiner::setDisplayDecimals(int decimals)
+{
+    d_func()->displayDecimals = qBound(0, decimals, 323);
+}
+
+int QLxDoubleSpiner::displayDecimals() const
+{
+    return d_func()->displayDecimals;
+}
+
+void QLxDoubleSpiner::setUseExactDisplayDecimals(bool enabled)
+{
+    d_func()->useExactDisplayDecimals = enabled;
+}
+
+bool QLxDoubleSpiner::useExactDisplayDecimals() const
+{
+    return d_func()->useExactDisplayDecimals;
+}
+
+void QLxDoubleSpiner::setShowStepHint(bool shown)
+{
+    d_func()->showStepHint = shown;
+}
+
+bool QLxDoubleSpiner::showStepHint() const
+{
+    return d_func()->showStepHint;
+}
+
+QSize QLxDoubleSpiner::sizeHint() const
+{
+    return {90, 16};
+}
+
+void QLxDoubleSpiner::contextMenuEvent(QContextMenuEvent *event)
+{
+    QLxDoubleSpinerPrivate *const d = d_func();
+    if (!d->stepMenu) {
+        d->stepMenu = new QMenu(lineEdit());
+        auto *const action = new QWidgetAction(this);
+        auto *const editor = new QLxDoubleSpiner;
+        editor->setMinimum(1e-7);
+        editor->setMaximum(100000.0);
+        editor->setFixedWidth(102);
+        editor->setDecimals(6);
+        editor->setButtonSymbols(QAbstractSpinBox::NoButtons);
+        editor->setPrefix(tr("Step: "));
+        editor->setValue(singleStep());
+        editor->selectAll();
+        editor->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        editor->setContextMenuPolicy(Qt::NoContextMenu);
+        action->setDefaultWidget(editor);
+        // Only now, so that rounding a fine step for display does not change it.
+        connect(editor, SIGNAL(valueChanged(double)), this, SLOT(setSingleStep(double)));
+        connect(editor, SIGNAL(editingFinished()), this, SLOT(stepEditingFinished()));
+        d->stepMenu->addAction(action);
+        d->stepMenu->setDefaultAction(action);
+        editor->setFocus(Qt::OtherFocusReason);
+    }
+    d->stepMenu->popup(QLx::menuPosition(*this, *event));
+    event->accept();
+}
+
+bool QLxDoubleSpiner::displaySceneUnit() const
+{
+    return d_func()->displaySceneUnit;
+}
+
+void QLxDoubleSpiner::setDisplaySceneUnit(bool shown)
+{
+    d_func()->displaySceneUnit = shown;
+    QLx::showSceneUnit(this, shown);
+    if (shown)
+        s_instancesWithSceneUnit.insert(this);
+    else
+        s_instancesWithSceneUnit.erase(this);
+}
+
+void QLxDoubleSpiner::updateSceneUnit()
+{
+    QLx::showSceneUnit(this, d_func()->displaySceneUnit);
+    update();
+}
+
+void QLxDoubleSpiner::updateInstancesWithSceneUnit()
+{
+    QLx::visitInOrder(s_instancesWithSceneUnit, [](QLxDoubleSpiner *box) { box->updateSceneUnit(); });
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#ifndef SCENEUNITSUFFIX_P_H
+#define SCENEUNITSUFFIX_P_H
+
+#include <QString>
+
+#include <set>
+
+namespace QLx {
+
+/// " mm", " cm", " m" or nothing, translated.
+QString sceneUnitSuffix();
+
+/// Gives a spin box the suffix of the scene unit, or takes away whatever suffix it has.
+template <typename Box>
+void showSceneUnit(Box *box, bool shown)
+{
+    const QString wanted = shown ? sceneUnitSuffix() : QString();
+    if (box->suffix() != wanted)
+        box->setSuffix(wanted);
+}
+
+/// Calls visit for each box in ascending order. The set may change meanwhile: a box that has left it before
+/// its turn is not visited.
+template <typename Box, typename Visit>
+void visitInOrder(const std::set<Box *> &boxes, Visit visit)
+{
+    for (auto next = boxes.begin(); next != boxes.end();) {
+        Box *const box = *next;
+        visit(box);
+        next = boxes.upper_bound(box);
+    }
+}
+
+} // namespace QLx
+
+#endif
