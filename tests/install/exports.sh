@@ -17,15 +17,18 @@ for name in QLx::hsvToRgb QLx::rgbToHsv QLx::rgbToLab QLx::labToHsv QLx::linearT
     QLx::colorGammaValue QLx::whitePoint QLx::labChromaRange QLxColorSlider::QLxColorSlider \
     QLxColorSlider::staticMetaObject QLxColorField::QLxColorField QLxColorField::staticMetaObject \
     QLxColorButton::QLxColorButton QLxColorButton::staticMetaObject QLxColorManipulator::QLxColorManipulator \
-    QLxColorManipulator::staticMetaObject qt_plugin_instance qt_plugin_query_metadata; do
+    QLxColorManipulator::staticMetaObject QLxDoubleSpiner::QLxDoubleSpiner QLxDoubleSpiner::staticMetaObject \
+    QLxSpiner::QLxSpiner QLxSpiner::staticMetaObject QLxComboBox::QLxComboBox QLxComboBox::staticMetaObject \
+    QLx::sceneUnit QLx::setSceneUnit qt_plugin_instance qt_plugin_query_metadata; do
     printf '%s\n' "$exported" | grep -qxF "$name" || missing="$missing $name"
 done
 [ -z "$missing" ] || { echo "not exported:$missing"; exit 1; }
 
-classes='QLxColor(Slider|Field|Button|Manipulator)'
+classes='QLx(Color(Slider|Field|Button|Manipulator)|DoubleSpiner|Spiner|ComboBox)'
 surplus=$(printf '%s\n' "$exported" "$weak" | grep -vE \
     -e "^((non-virtual )?(thunk|vtable|typeinfo|typeinfo name|guard variable) (to|for) )?$classes(::|\$)" \
     -e '^QLx::(hsvToRgb|rgbToHsv|rgbToLab|labToHsv|linearToSrgb|srgbToLinear|to(Srgb|Q)Color(Raw|F)?|fromSrgbColor)$' \
+    -e '^QLx::(sceneUnit|setSceneUnit)$' \
     -e '^QLx::(colorUseGamma|colorGammaValue|whitePoint|labChromaRange)$' \
     -e '^qt_plugin_(instance|query_metadata)$' \
     -e '^(__bss_start|_edata|_end|_init|_fini|)$' || true)
