@@ -23,12 +23,10 @@ QLxColor colorFrom(const QMimeData *mime)
                     static_cast<float>(color.blueF()));
 }
 
-void dragColor(QWidget *source, const QLxColor &color)
+void dragColor(QWidget *source, const QLxColor &color, const QPixmap &swatch)
 {
     auto *const mime = new QMimeData;
     mime->setColorData(toQColorF(color));
-    QPixmap swatch(30, 20);
-    swatch.fill(toQColor(color));
     auto *const drag = new QDrag(source); // Qt deletes it, and the data with it, once it has ended
     drag->setMimeData(mime);
     drag->setPixmap(swatch);

@@ -6,6 +6,7 @@
 #include "QLxColor.h"
 
 class QMimeData;
+class QPixmap;
 class QWidget;
 
 // Colours as drag-and-drop data: Qt's standard colour type, carrying linear floating-point RGB.
@@ -16,8 +17,8 @@ bool hasColor(const QMimeData *mime);
 /// The dropped colour; no transfer curve is removed. Requires hasColor().
 QLxColor colorFrom(const QMimeData *mime);
 
-/// Runs a copy drag of the colour from source, with a 30 x 20 swatch at the pointer, until it ends.
-void dragColor(QWidget *source, const QLxColor &color);
+/// Runs a copy drag of the colour from source, with the swatch at the pointer, until it ends.
+void dragColor(QWidget *source, const QLxColor &color, const QPixmap &swatch);
 
 } // namespace QLx
 

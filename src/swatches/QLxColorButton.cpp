@@ -141,8 +141,10 @@ void QLxColorButton::mouseMoveEvent(QMouseEvent *event)
 {
     if (!m_pressed || (m_pressPos - event->pos()).manhattanLength() <= QApplication::startDragDistance())
         return;
+    QPixmap swatch(30, 20);
+    swatch.fill(QLx::toQColor(m_color));
     whileAlive(
-        this, [this] { QLx::dragColor(this, m_color); }, [this] { m_pressed = false; });
+        this, [&] { QLx::dragColor(this, m_color, swatch); }, [&] { m_pressed = false; });
 }
 
 void QLxColorButton::dragEnterEvent(QDragEnterEvent *event)

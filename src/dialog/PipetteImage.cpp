@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 QLx Controls contributors
+// SPDX-License-Identifier: MIT
+#include "PipetteImage_p.h"
+
+namespace {
+
+// clang-format off
+const char *const image[] = {
+    "32 32 40 1",
+    "  c None",
+    "# c #000000",
+    "a c #202020",
+    "b c #242424",
+    "c c #282828",
+    "d c #2c2c2c",
+    "e c #303030",
+    "f c #343434",
+    "g c #383838",
+    "h c #3c3c3c",
+    "i c #404040",
+    "j c #444444",
+    "k c #484848",
+    "l c #505050",
+    "m c #545454",
+    "n c #585858",
+    "o c #5c5c5c",
+    "p c #606060",
+    "q c #646464",
+    "r c #686868",
+    "s c #6c6c6c",
+    "t c #707070",
+    "u c #747474",
+    "v c #787878",
+    "w c #7c7c7c",
+    "x c #808080",
+    "y c #848484",
+    "z c #888888",
+    "A c #8c8c8c",
+    "B c #909090",
+    "C c #989898",
+    "D c #a0a0a0",
+    "E c #a8a8a8",
+    "F c #b8b8b8",
+    "G c #d0d0d0",
+    "H c #d4d4d4",
+    "I c #d8d8d8",
+    "J c #dcdcdc",
+    "K c #e0e0e0",
+    "L c #e8e8e8",
+    "                                ",
+    "                                ",
+    "                                ",
+    "                                ",
+    "                                ",
+    "                    ahnlha      ",
+    "                   antrpnia     ",
+    "                  antrpnlkd     ",
+    "                 antrpnlkie     ",
+    "              bvhntrpnlkigc     ",
+    "             bvBzurpnlkigda     ",
+    "             uBzxvqnlkigdba     ",
+    "              yxwusmkigdba      ",
+    "              dButrpjgdba       ",
+    "             cFKzrpomfba        ",
+    "            cFLKIxomlkc         ",
+    "           cFLKJIGslkif         ",
+    "          cFLKJIHEckifa         ",
+    "         cFLKJIHEc  fa          ",
+    "        cFLKJIHEc               ",
+    "       bzKKJIHEc                ",
+    "      bvBDIIHEc                 ",
+    "     bvBAzCGEc                  ",
+    "     kBAzyxvc                   ",
+    "    avAzyxra                    ",
+    "    fAzyxra                     ",
+    "   aqzyria                      ",
+    "   a#pea                        ",
+    "    aa                          ",
+    "                                ",
+    "                                ",
+    "                                ",
+};
+// clang-format on
+
+} // namespace
+
+QPixmap QLx::pipettePixmap()
+{
+    return QPixmap(image);
+}
