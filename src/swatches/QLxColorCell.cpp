@@ -103,9 +103,9 @@ void QLxColorCell::paintEvent(QPaintEvent * /*event*/)
     const QLxColorCellData *const cell = record();
     const bool current = m_array && index() == m_array->m_current;
     QPainter painter(this);
-    painter.setPen(current ? Qt::red : Qt::black);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
     painter.fillRect(rect().adjusted(1, 1, -1, -1), cell && !cell->isFree
                                                         ? QBrush(QLx::toQColor(cell->color))
                                                         : QBrush(Qt::black, Qt::Dense4Pattern));
+    painter.setPen(current ? Qt::red : Qt::black); // on top, where pixels are not whole
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

@@ -16,7 +16,8 @@ for name in QLx::hsvToRgb QLx::rgbToHsv QLx::rgbToLab QLx::labToHsv QLx::linearT
     QLx::toSrgbColor QLx::fromSrgbColor QLx::toQColor QLx::toQColorRaw QLx::toQColorF QLx::colorUseGamma \
     QLx::colorGammaValue QLx::whitePoint QLx::labChromaRange QLxColorSlider::QLxColorSlider \
     QLxColorSlider::staticMetaObject QLxColorField::QLxColorField QLxColorField::staticMetaObject \
-    QLxColorButton::QLxColorButton QLxColorButton::staticMetaObject QLxColorManipulator::QLxColorManipulator \
+    QLxColorButton::QLxColorButton QLxColorButton::staticMetaObject QLxColorArray::QLxColorArray \
+    QLxColorArray::staticMetaObject QLxColorManipulator::QLxColorManipulator \
     QLxColorManipulator::staticMetaObject QLxDoubleSpiner::QLxDoubleSpiner QLxDoubleSpiner::staticMetaObject \
     QLxSpiner::QLxSpiner QLxSpiner::staticMetaObject QLxComboBox::QLxComboBox QLxComboBox::staticMetaObject \
     QLx::sceneUnit QLx::setSceneUnit qt_plugin_instance qt_plugin_query_metadata; do
@@ -24,7 +25,7 @@ for name in QLx::hsvToRgb QLx::rgbToHsv QLx::rgbToLab QLx::labToHsv QLx::linearT
 done
 [ -z "$missing" ] || { echo "not exported:$missing"; exit 1; }
 
-classes='QLx(Color(Slider|Field|Button|Manipulator)|DoubleSpiner|Spiner|ComboBox)'
+classes='QLx(Color(Slider|Field|Array|Button|Manipulator)|DoubleSpiner|Spiner|ComboBox)'
 surplus=$(printf '%s\n' "$exported" "$weak" | grep -vE \
     -e "^((non-virtual )?(thunk|vtable|typeinfo|typeinfo name|guard variable) (to|for) )?$classes(::|\$)" \
     -e '^QLx::(hsvToRgb|rgbToHsv|rgbToLab|labToHsv|linearToSrgb|srgbToLinear|to(Srgb|Q)Color(Raw|F)?|fromSrgbColor)$' \
