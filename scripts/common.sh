@@ -5,8 +5,8 @@
 # Shared by run, check and lint: sourced from the project's folder, with $name set to the command's name.
 
 build_packages='g++ cmake ninja-build pkg-config qtbase5-dev qtscript5-dev qttools5-dev qttools5-dev-tools fonts-dejavu-core'
-test_packages='clang xvfb xdotool openbox imagemagick'
-lint_packages='clang clang-format clang-tidy clazy shellcheck reuse gcovr git libbenchmark-dev'
+test_packages='clang xvfb xdotool openbox xcompmgr imagemagick'
+lint_packages='clang libclang-rt-14-dev clang-format clang-tidy clazy shellcheck reuse gcovr git libbenchmark-dev'
 
 say() { printf '%s: %s\n' "$name" "$*"; }
 

@@ -4,6 +4,7 @@
 #include "PipetteImage_p.h"
 #include "QLxColorDialog_p.h"
 #include "QLxColorSpaces.h"
+#include "WhileAlive_p.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -11,6 +12,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSignalBlocker>
+#include <QWindow>
 
 namespace {
 
@@ -34,6 +36,21 @@ void QLxColorDialog::toggleColorPipette(bool enable)
         stopPicking();
 }
 
+void QLxColorDialog::setUpPipette()
+{
+    m_pipetteOverlay.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    m_pipetteOverlay.resize(100, 100);
+    // On X11 a window's opacity is nothing without a compositor, and a tint, or late, with one. There the
+    // window is given a shape that covers no pixel at all; the grabs, which reach the whole desktop, stay.
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        m_pipetteOverlay.setMask(QRegion(-1, -1, 1, 1));
+    // Whoever is in front now gets the mouse and the keyboard.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive && isPicking())
+            stopPicking();
+    });
+}
+
 void QLxColorDialog::startPicking()
 {
     m_pipetteOverlay.grabKeyboard();
@@ -44,6 +61,7 @@ void QLxColorDialog::startPicking()
     m_pipetteOverlay.setWindowOpacity(static_cast<qreal>(0.01F));
     m_pipetteOverlay.setCursor(pipetteCursor());
     m_pipetteOverlay.grabMouse();
+    m_pipetteOverlay.windowHandle()->installEventFilter(this); // see eventFilter()
     const QSignalBlocker blocker(_pick_color);
     _pick_color->setChecked(true);
 }
@@ -80,6 +98,11 @@ void QLxColorDialog::preGrabScreenColor()
 
 bool QLxColorDialog::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_pipetteOverlay.windowHandle() && event->type() == QEvent::Expose && isPicking()) {
+        // The display refuses to grab for a window that is not there yet: grab again.
+        m_pipetteOverlay.grabKeyboard();
+        m_pipetteOverlay.grabMouse();
+    }
     if (watched != &m_pipetteOverlay)
         return false;
     switch (event->type()) {
@@ -87,17 +110,12 @@ bool QLxColorDialog::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseMove:
     case QEvent::ToolTip:
         return true;
-    case QEvent::MouseButtonRelease: {
-        const auto *const release = static_cast<const QMouseEvent *>(event);
-        if (release->button() == Qt::LeftButton && !rect().contains(mapFromGlobal(release->globalPos()))) {
-            m_pipetteOverlay.setWindowOpacity(0.0);
-            m_pipetteOverlay.repaint();
-            QCoreApplication::processEvents();
-            setColor(sampleScreenColor(QCursor::pos()));
-        }
-        toggleColorPipette(false);
+    case QEvent::MouseButtonRelease:
+        releaseOverDesktop(static_cast<const QMouseEvent *>(event));
         return true;
-    }
+    case QEvent::ShortcutOverride:
+        event->accept(); // or the key would set off a shortcut of the application
+        return false;
     case QEvent::KeyPress:
         toggleColorPipette(false);
         event->accept();
@@ -107,15 +125,37 @@ bool QLxColorDialog::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-QLxColor QLxColorDialog::sampleScreenColor(QPoint globalPos) const
+void QLxColorDialog::releaseOverDesktop(const QMouseEvent *event)
+{
+    const bool picks =
+        event->button() == Qt::LeftButton && !rect().contains(mapFromGlobal(event->globalPos()));
+    const auto sample = [this] {
+        m_pipetteOverlay.setWindowOpacity(0.0);
+        m_pipetteOverlay.repaint();
+        QCoreApplication::processEvents();
+    };
+    const auto take = [this] {
+        if (!isPicking())
+            return; // one of the events has ended it
+        if (const std::optional<QLxColor> color = sampleScreenColor(QCursor::pos()))
+            setColor(*color);
+    };
+    if (!picks || whileAlive(this, sample, take))
+        toggleColorPipette(false);
+}
+
+std::optional<QLxColor> QLxColorDialog::sampleScreenColor(QPoint globalPos)
 {
     QDesktopWidget *const desktop = QApplication::desktop();
     QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    QScreen *const screen = screens.at(desktop->screenNumber());
+    QT_WARNING_DISABLE_DEPRECATED // there is no other way to the number of the primary screen
+        QScreen *const screen = QGuiApplication::screens().value(desktop->screenNumber());
     QT_WARNING_POP
+    if (!screen)
+        return std::nullopt;
     const QImage grabbed = screen->grabWindow(desktop->winId(), globalPos.x(), globalPos.y(), 1, 1).toImage();
+    if (grabbed.isNull())
+        return std::nullopt;
     const QColor pixel(grabbed.pixel(0, 0));
     const auto channel = [](int level) { return static_cast<float>(level) / 255.0F; };
     const QLxColor encoded =

@@ -61,8 +61,7 @@ QLxColorDialog::~QLxColorDialog()
 void QLxColorDialog::setUpControls()
 {
     _pick_color->setIcon(QIcon(QLx::pipettePixmap()));
-    m_pipetteOverlay.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
-    m_pipetteOverlay.resize(100, 100);
+    setUpPipette();
 
     const QLxColor black;
     for (const Channel primary : {QLxColorSlider::Red, QLxColorSlider::Green, QLxColorSlider::Blue}) {

@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <array>
+#include <optional>
 
 /// The colour dialog that all colour buttons of the process share. It holds one colour, linear HSV; every
 /// control is a view of it, and every edit goes one way: change the colour, refresh all controls with their
@@ -145,10 +146,13 @@ private:
     void updateField();
     void updateSpiners();
 
+    void setUpPipette();
     bool isPicking() const { return m_pipetteTimer->isActive(); }
     void startPicking();
     void stopPicking();
-    QLxColor sampleScreenColor(QPoint globalPos) const;
+    void releaseOverDesktop(const QMouseEvent *event);
+    /// The colour of one pixel of the primary screen, in boundary form; nothing if it can't be read.
+    static std::optional<QLxColor> sampleScreenColor(QPoint globalPos);
 
     std::array<ChannelControls, 9> m_controls; // in the order of the slider's modes
     QLxColor m_color;                          // linear HSV
