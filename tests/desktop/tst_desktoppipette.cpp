@@ -19,6 +19,7 @@
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -41,6 +42,17 @@ QPoint patchCentre(int index)
 {
     return patchWindow.topLeft() + QPoint(index % 10, index / 10) * PatchSize +
            QPoint(PatchSize, PatchSize) / 2;
+}
+
+const QString click = QStringLiteral("mousedown 1 mouseup 1 "); // xdotool's own takes its time
+
+// Clicks on the pipette's button and waits until the pipette has the mouse and the keyboard.
+bool startPicking(const QLxColorDialog &dialog)
+{
+    return onDesktop(moveTo(dialog._pick_color) + click) && QTest::qWaitFor([&] {
+               const QWidget *const overlay = QWidget::mouseGrabber();
+               return dialog._pick_color->isChecked() && overlay && overlay->windowHandle()->isExposed();
+           });
 }
 
 // What sampling a pixel of this colour gives, in boundary form.
@@ -161,10 +173,9 @@ void TestDesktopPipette::samplesWhatIsPainted()
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     SignalLog log;
     log.watch(&dialog, &QLxColorDialog::colorChanged, "colorChanged");
-    const QString click = QStringLiteral("mousedown 1 mouseup 1 sleep 0.03 "); // xdotool's own is slow
     for (int i = 0; i < PatchCount; ++i) {
-        QVERIFY(onDesktop(moveTo(dialog._pick_color) + click + moveTo(patchCentre(i)) +
-                          QStringLiteral("sleep 0.03 ") + click));
+        QVERIFY(startPicking(dialog));
+        QVERIFY(onDesktop(moveTo(patchCentre(i)) + click));
         QVERIFY(QTest::qWaitFor([&] { return !dialog._pick_color->isChecked() && !log.text().isEmpty(); }));
         const QLxColor expected = sampled(patchColor(i), useGamma);
         // The dialog's own colour is linear in both settings.
@@ -183,7 +194,7 @@ void TestDesktopPipette::samplesWhatIsPainted()
 void TestDesktopPipette::endsWithoutPicking_data()
 {
     QTest::addColumn<QString>("deed");
-    const QString onPatch = moveTo(patchCentre(7)) + QStringLiteral("sleep 0.03 ");
+    const QString onPatch = moveTo(patchCentre(7));
     QTest::newRow("right click on the desktop") << onPatch + QStringLiteral("click 3");
     QTest::newRow("middle click on the desktop") << onPatch + QStringLiteral("click 2");
     QTest::newRow("Escape") << onPatch + QStringLiteral("key Escape");
@@ -216,8 +227,7 @@ void TestDesktopPipette::endsWithoutPicking()
     qApp->installEventFilter(&keys);
     deed.replace(QStringLiteral("BUTTON "), moveTo(dialog._pick_color))
         .replace(QStringLiteral("LABEL "), moveTo(dialog._r_label));
-    QVERIFY(onDesktop(moveTo(dialog._pick_color) + QStringLiteral("click 1")));
-    QTRY_VERIFY(dialog._pick_color->isChecked());
+    QVERIFY(startPicking(dialog));
     QVERIFY(onDesktop(deed));
     QTRY_VERIFY(!dialog._pick_color->isChecked());
     COMPARE_LOG(log, {});
@@ -268,8 +278,8 @@ void TestDesktopPipette::fromAHostToAPixelAndBack()
     QVERIFY(QTest::qWaitForWindowExposed(dialog));
     QTRY_VERIFY(dialog->mapToGlobal({}).x() >= 320); // out of the patches' way
     log.watch(dialog, &QLxColorDialog::colorChanged, "dialog");
-    QVERIFY(onDesktop(moveTo(dialog->_pick_color) + QStringLiteral("click 1 sleep 0.05 ") +
-                      moveTo(patchCentre(23)) + QStringLiteral("sleep 0.05 click 1")));
+    QVERIFY(startPicking(*dialog));
+    QVERIFY(onDesktop(moveTo(patchCentre(23)) + click));
     QTRY_VERIFY(!dialog->_pick_color->isChecked() && log.text().contains(QStringLiteral("dialog(")));
     QVERIFY(onDesktop(moveTo(dialog->_accept) + QStringLiteral("click 1")));
     QTRY_VERIFY(!dialog->isVisible());
@@ -296,8 +306,8 @@ void TestDesktopPipette::dialogDeletedByThePickedColor()
     dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(dialog));
     connect(dialog, &QLxColorDialog::colorChanged, this, [&dialog] { delete dialog; });
-    QVERIFY(onDesktop(moveTo(dialog->_pick_color) + QStringLiteral("click 1 sleep 0.05 ") +
-                      moveTo(patchCentre(3)) + QStringLiteral("sleep 0.05 click 1")));
+    QVERIFY(startPicking(*dialog));
+    QVERIFY(onDesktop(moveTo(patchCentre(3)) + click));
     QTRY_VERIFY(!dialog);
 }
 
