@@ -3,6 +3,7 @@
 #include "Pages.h"
 
 #include "FieldPage.h"
+#include "NumbersPage.h"
 #include "SlidersPage.h"
 #include "SwatchesPage.h"
 
@@ -12,6 +13,7 @@ const QVector<Page> &pages()
         {QStringLiteral("Sliders"), createSlidersPage, demonstrateSlidersPage},
         {QStringLiteral("Field"), createFieldPage, demonstrateFieldPage},
         {QStringLiteral("Swatches"), createSwatchesPage, demonstrateSwatchesPage},
+        {QStringLiteral("Numbers"), createNumbersPage, demonstrateNumbersPage},
     };
     return all;
 }

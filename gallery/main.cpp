@@ -39,6 +39,8 @@ int main(int argc, char *argv[])
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, !rendering);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Without this, what is below a style sheet would not follow the palette.
+    QApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("qlx-gallery"));
     QApplication::setApplicationDisplayName(QStringLiteral("QLx Controls Gallery"));

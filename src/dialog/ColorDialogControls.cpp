@@ -32,7 +32,7 @@ void QLxColorDialog::updateControls()
     for (const Channel channel : QLx::RefreshOrder) {
         // b* has the gradient of value, on purpose.
         const Channel gradient = channel == QLxColorSlider::Bstar ? QLxColorSlider::Value : channel;
-        moveSlider(m_controls[channel].slider, QLx::gradientEnds(gradient, m_color),
+        moveSlider(controls(channel).slider, QLx::gradientEnds(gradient, m_color),
                    QLx::sliderPosition(channel, m_color));
     }
     updateField();
@@ -68,9 +68,9 @@ void QLxColorDialog::updateField()
 void QLxColorDialog::updateSpiners()
 {
     for (const Channel channel : QLx::RefreshOrder) {
-        QLxDoubleSpiner *const spiner = m_controls[channel].spiner;
+        QLxDoubleSpiner *const spiner = controls(channel).spiner;
         const QSignalBlocker blocker(spiner);
-        spiner->setValue(static_cast<double>(m_controls[channel].slider->getRealValue()));
+        spiner->setValue(static_cast<double>(controls(channel).slider->getRealValue()));
     }
 }
 

@@ -65,7 +65,7 @@ void QLxColorDialog::setUpControls()
 
     const QLxColor black;
     for (const Channel primary : {QLxColorSlider::Red, QLxColorSlider::Green, QLxColorSlider::Blue}) {
-        QLxColorSlider *const slider = m_controls[primary].slider;
+        QLxColorSlider *const slider = controls(primary).slider;
         slider->setMinColor(black);
         slider->setMaxColor({120.0F * static_cast<float>(primary - QLxColorSlider::Red), 1.0F, 1.0F});
     }

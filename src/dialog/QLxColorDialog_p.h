@@ -130,6 +130,10 @@ private:
         const char *modeSlot;
     };
 
+    const ChannelControls &controls(Channel channel) const
+    {
+        return m_controls[static_cast<std::size_t>(channel)];
+    }
     void setUpControls();
     void connectControls();
     void setInitialColor(const QLxColor &color);
