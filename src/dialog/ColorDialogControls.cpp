@@ -9,9 +9,33 @@
 
 namespace {
 
+/// Keeps a widget from painting itself, and what is behind it, after each of several steps. It is painted
+/// afterwards together with everything else that is new; setColorInfo() sees to it.
+class PaintOnce
+{
+public:
+    explicit PaintOnce(QWidget *widget)
+        : m_widget(widget)
+        , m_updates(widget->updatesEnabled())
+    {
+        m_widget->setUpdatesEnabled(false);
+    }
+    ~PaintOnce() { m_widget->setUpdatesEnabled(m_updates); }
+    Q_DISABLE_COPY_MOVE(PaintOnce)
+
+private:
+    QWidget *const m_widget;
+    const bool m_updates;
+};
+
 void moveSlider(QLxColorSlider *slider, const std::optional<QLx::GradientEnds> &ends, float position)
 {
+    const bool sameEnds =
+        !ends || (slider->getMinColor() == ends->minimum && slider->getMaxColor() == ends->maximum);
+    if (sameEnds && slider->getValue() == position)
+        return;
     const QSignalBlocker blocker(slider);
+    const PaintOnce paintOnce(slider);
     if (ends) {
         slider->setMinColor(ends->minimum);
         slider->setMaxColor(ends->maximum);
@@ -22,7 +46,6 @@ void moveSlider(QLxColorSlider *slider, const std::optional<QLx::GradientEnds> &
 void write(QLabel *label, const char *prefix, float number, int decimals)
 {
     label->setText(QLatin1String(prefix) + QString::number(static_cast<double>(number), 'f', decimals));
-    label->repaint();
 }
 
 } // namespace
@@ -46,6 +69,7 @@ void QLxColorDialog::updateField()
     if (mode < QLxColorField::HueMode || mode > QLxColorField::BstarMode)
         return;
     const QSignalBlocker blocker(_colorField);
+    const PaintOnce paintOnce(_colorField);
     float red = 0.0F;
     float green = 0.0F;
     float blue = 0.0F;
@@ -97,6 +121,7 @@ void QLxColorDialog::setColorInfo(QLxColor color)
     write(_Lstar_label, "L*: ", lstar, 3);
     write(_astar_label, "a*: ", astar, 3);
     write(_bstar_label, "b*: ", bstar, 3);
+    _bstar_label->repaint(); // and with it whatever else of the window waits for it, in one go
 }
 
 void QLxColorDialog::tabChanged(int index)

@@ -73,9 +73,26 @@ void QLxColorDialog::setUpControls()
         channel.spiner->setDisplayDecimals(3);
         channel.spiner->setUseExactDisplayDecimals(true);
     }
+    fixSizes();
     const auto chroma = static_cast<double>(QLx::labChromaRange);
     _astarSpiner->setRange(-chroma, chroma);
     _bstarSpiner->setRange(-chroma, chroma);
+}
+
+void QLxColorDialog::fixSizes()
+{
+    // What has a fixed size can show something else without the whole dialog being laid out and painted anew.
+    for (QLabel *const label : {_r_label, _g_label, _b_label, _h_label, _s_label, _v_label, _Lstar_label,
+                                _astar_label, _bstar_label})
+        label->setFixedSize(label->minimumWidth(), label->sizeHint().height());
+    _current_color->setFixedSize(_current_color->minimumSize());
+}
+
+void QLxColorDialog::changeEvent(QEvent *event)
+{
+    SharedColorDialog::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fixSizes();
 }
 
 void QLxColorDialog::connectControls()

@@ -114,6 +114,7 @@ public Q_SLOTS:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -136,6 +137,7 @@ private:
     }
     void setUpControls();
     void connectControls();
+    void fixSizes();
     void setInitialColor(const QLxColor &color);
     static QLxColor fromBoundary(const QLxColor &color);
 
