@@ -46,6 +46,7 @@ void moveSlider(QLxColorSlider *slider, const std::optional<QLx::GradientEnds> &
 void write(QLabel *label, const char *prefix, float number, int decimals)
 {
     label->setText(QLatin1String(prefix) + QString::number(static_cast<double>(number), 'f', decimals));
+    label->update();
 }
 
 } // namespace
@@ -121,7 +122,7 @@ void QLxColorDialog::setColorInfo(QLxColor color)
     write(_Lstar_label, "L*: ", lstar, 3);
     write(_astar_label, "a*: ", astar, 3);
     write(_bstar_label, "b*: ", bstar, 3);
-    _bstar_label->repaint(); // and with it whatever else of the window waits for it, in one go
+    _bstar_label->repaint(); // and with it all the labels and whatever else waits, in one go
 }
 
 void QLxColorDialog::tabChanged(int index)

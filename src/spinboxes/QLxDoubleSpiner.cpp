@@ -14,11 +14,13 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QTimer>
 #include <QVariant>
 #include <QWidgetAction>
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -383,9 +385,10 @@ void QLxDoubleSpiner::dragBy(double delta)
         Q_EMIT relativeOperatorApplied(RelOpAdd, delta);
         return;
     }
-    const bool blocked = d->stepEditing ? blockSignals(true) : signalsBlocked();
+    std::optional<QSignalBlocker> blocker;
+    if (d->stepEditing)
+        blocker.emplace(this);
     setValue(value() + delta);
-    blockSignals(blocked);
 }
 
 void QLxDoubleSpiner::releaseMouse(const QMouseEvent *event)
@@ -487,7 +490,8 @@ bool QLxDoubleSpiner::displaySceneUnit() const
 void QLxDoubleSpiner::setDisplaySceneUnit(bool shown)
 {
     d_func()->displaySceneUnit = shown;
-    QLx::showSceneUnit(this, shown);
+    if (!QLx::showSceneUnit(this, shown))
+        return;
     if (shown)
         s_instancesWithSceneUnit.insert(this);
     else
@@ -496,8 +500,8 @@ void QLxDoubleSpiner::setDisplaySceneUnit(bool shown)
 
 void QLxDoubleSpiner::updateSceneUnit()
 {
-    QLx::showSceneUnit(this, d_func()->displaySceneUnit);
-    update();
+    if (QLx::showSceneUnit(this, d_func()->displaySceneUnit))
+        update();
 }
 
 void QLxDoubleSpiner::updateInstancesWithSceneUnit()

@@ -34,9 +34,10 @@ class QLxDoubleSpinerPrivate;
 /// edits the step. The range is at first -2147483647 to 2147483647, the precision 10 decimals, the locale
 /// QLocale::C, and keyboard tracking off.
 ///
-/// Receivers may delete the box inside mouseButtonPressed(), mouseButtonReleased(), singleStepChanged(), and
-/// relativeOperatorApplied() of a drag. Everywhere else, that is inside the signals that QDoubleSpinBox or
-/// the focus of the keyboard sets off, use deleteLater(), as with a plain QDoubleSpinBox.
+/// Receivers may delete the box inside mouseButtonPressed(), mouseButtonReleased(), relativeOperatorApplied()
+/// of a drag, and singleStepChanged() of setSingleStep(). Everywhere else, that is inside what
+/// QDoubleSpinBox, the keyboard focus or the menu's own box sets off, use deleteLater(), as with a plain
+/// QDoubleSpinBox.
 class QLX_EXPORT QLxDoubleSpiner : public QDoubleSpinBox
 {
     Q_OBJECT

@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QSignalBlocker>
 
+#include <optional>
 #include <utility>
 
 class QLxSpinerPrivate
@@ -218,9 +219,10 @@ bool QLxSpiner::moveMouse(const QMouseEvent *event)
         return false;
     const int fromX = std::exchange(d->lastMouseX, event->x());
     if (d->dragMode == QLx::MiddleDrag) {
-        const bool blocked = d->stepEditing ? blockSignals(true) : signalsBlocked();
+        std::optional<QSignalBlocker> blocker;
+        if (d->stepEditing)
+            blocker.emplace(this);
         setValue(QLx::draggedValue(value(), singleStep(), fromX, event->x(), minimum(), maximum()));
-        blockSignals(blocked);
     }
     return d->dragMode != QLx::LeftDrag && d->dragMode != QLx::RightDrag;
 }
@@ -243,7 +245,8 @@ bool QLxSpiner::displaySceneUnit() const
 void QLxSpiner::setDisplaySceneUnit(bool shown)
 {
     d_func()->displaySceneUnit = shown;
-    QLx::showSceneUnit(this, shown);
+    if (!QLx::showSceneUnit(this, shown))
+        return;
     if (shown)
         s_instancesWithSceneUnit.insert(this);
     else
@@ -252,8 +255,8 @@ void QLxSpiner::setDisplaySceneUnit(bool shown)
 
 void QLxSpiner::updateSceneUnit()
 {
-    QLx::showSceneUnit(this, d_func()->displaySceneUnit);
-    update();
+    if (QLx::showSceneUnit(this, d_func()->displaySceneUnit))
+        update();
 }
 
 void QLxSpiner::updateInstancesWithSceneUnit()

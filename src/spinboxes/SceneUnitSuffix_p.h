@@ -3,6 +3,8 @@
 #ifndef SCENEUNITSUFFIX_P_H
 #define SCENEUNITSUFFIX_P_H
 
+#include "WhileAlive_p.h"
+
 #include <QString>
 
 #include <set>
@@ -12,13 +14,18 @@ namespace QLx {
 /// " mm", " cm", " m" or nothing, translated.
 QString sceneUnitSuffix();
 
-/// Gives a spin box the suffix of the scene unit, or takes away whatever suffix it has.
+/// Gives a spin box the suffix of the scene unit, or takes away whatever suffix it has. Returns whether the
+/// box still lives: a translator is the host's own code.
 template <typename Box>
-void showSceneUnit(Box *box, bool shown)
+bool showSceneUnit(Box *box, bool shown)
 {
-    const QString wanted = shown ? sceneUnitSuffix() : QString();
-    if (box->suffix() != wanted)
-        box->setSuffix(wanted);
+    QString wanted;
+    return whileAlive(
+        box, [&] { wanted = shown ? sceneUnitSuffix() : QString(); },
+        [&] {
+            if (box->suffix() != wanted)
+                box->setSuffix(wanted);
+        });
 }
 
 /// Calls visit for each box in ascending order. The set may change meanwhile: a box that has left it before
