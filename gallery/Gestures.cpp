@@ -38,8 +38,12 @@ void dragAcross(QWidget &widget, double from, double to, int steps)
 
 void click(QWidget &widget)
 {
-    sendMouse(widget, QEvent::MouseButtonPress, {0.5, 0.5});
-    sendMouse(widget, QEvent::MouseButtonRelease, {0.5, 0.5});
+    click(widget, {0.5, 0.5});
+}
+
+void click(QWidget &widget, const QPointF &position)
+{
+    drag(widget, position, position, 0);
 }
 
 void dropColor(QWidget &widget, const QColor &color)

@@ -3,7 +3,9 @@
 #include "Pages.h"
 
 #include "FieldPage.h"
+#include "ModulePage.h"
 #include "NumbersPage.h"
+#include "PatchesPage.h"
 #include "SlidersPage.h"
 #include "SwatchesPage.h"
 
@@ -14,6 +16,8 @@ const QVector<Page> &pages()
         {QStringLiteral("Field"), createFieldPage, demonstrateFieldPage},
         {QStringLiteral("Swatches"), createSwatchesPage, demonstrateSwatchesPage},
         {QStringLiteral("Numbers"), createNumbersPage, demonstrateNumbersPage},
+        {QStringLiteral("Module"), createModulePage, demonstrateModulePage},
+        {QStringLiteral("Pipette"), createPatchesPage, demonstratePatchesPage},
     };
     return all;
 }

@@ -21,7 +21,7 @@ constexpr RoleColor DarkColors[] = {
     {QPalette::Base, 0x1f2023},
     {QPalette::AlternateBase, 0x26282b},
     {QPalette::Text, 0xe4e5e7},
-    {QPalette::Button, 0x3a3d41},
+    {QPalette::Button, 0x323539},
     {QPalette::ButtonText, 0xe4e5e7},
     {QPalette::BrightText, 0xff7b72},
     {QPalette::Light, 0x5a5e64},

@@ -7,13 +7,76 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEvent>
 #include <QLayout>
 #include <QLocale>
 #include <QPixmap>
 #include <QSaveFile>
+#include <QTabWidget>
 #include <QTextStream>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
+
+/// Keeps dialogs off the screen, so that no window manager sizes them.
+class DialogHider : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Polish) { // precedes the showing
+            auto *const widget = qobject_cast<QWidget *>(watched);
+            if (widget && widget->windowType() == Qt::Dialog)
+                widget->setAttribute(Qt::WA_DontShowOnScreen);
+        }
+        return false;
+    }
+};
+
+QString fileName(const QString &title)
+{
+    return title.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+}
+
+QList<QWidget *> openDialogs()
+{
+    const QList<QWidget *> windows = QApplication::topLevelWidgets();
+    QList<QWidget *> dialogs;
+    std::copy_if(windows.begin(), windows.end(), std::back_inserter(dialogs), [](const QWidget *window) {
+        return window->windowType() == Qt::Dialog && window->isVisible();
+    });
+    return dialogs;
+}
+
+struct Picture
+{
+    QString name;
+    QPixmap pixmap;
+};
+
+/// The window and the dialogs that are open beside it, of one with tabs also every other tab.
+QVector<Picture> takePictures(QWidget &window, const QString &name)
+{
+    QVector<Picture> pictures{{name, window.grab()}};
+    const QList<QWidget *> dialogs = openDialogs();
+    for (QWidget *dialog : dialogs) {
+        pictures.append({name + QStringLiteral("-dialog"), dialog->grab()});
+        auto *const tabs = dialog->findChild<QTabWidget *>(QStringLiteral("tabWidget"));
+        const int first = tabs ? tabs->currentIndex() : 0;
+        for (int i = 0; tabs && i < tabs->count(); ++i) {
+            if (i == first)
+                continue;
+            tabs->setCurrentIndex(i);
+            QApplication::processEvents();
+            pictures.append({name + QLatin1Char('-') + fileName(tabs->tabText(i)), dialog->grab()});
+        }
+        if (tabs)
+            tabs->setCurrentIndex(first);
+    }
+    return pictures;
+}
 
 /// Returns what went wrong, or an empty string.
 QString write(const QPixmap &picture, const QString &path)
@@ -46,6 +109,8 @@ QString renderPages(const QString &directory)
         return QStringLiteral("cannot create the directory %1").arg(directory);
     const QDir target(directory);
 
+    DialogHider hider;
+    qApp->installEventFilter(&hider);
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     MainWindow window;
     window.setAttribute(Qt::WA_DontShowOnScreen);
@@ -60,15 +125,20 @@ QString renderPages(const QString &directory)
         for (const bool dark : {false, true}) {
             window.setDark(dark);
             QApplication::processEvents();
-            const QString path = target.filePath(
-                QStringLiteral("%1-%2.png")
-                    .arg(pages().at(i).title.toLower().replace(QLatin1Char(' '), QLatin1Char('-')),
-                         dark ? QStringLiteral("dark") : QStringLiteral("light")));
-            QString error = write(window.grab(), path);
-            if (!error.isEmpty())
-                return error;
-            out << path << QLatin1Char('\n');
+            const QVector<Picture> pictures = takePictures(window, fileName(pages().at(i).title));
+            for (const Picture &picture : pictures) {
+                const QString path = target.filePath(
+                    QStringLiteral("%1-%2.png")
+                        .arg(picture.name, dark ? QStringLiteral("dark") : QStringLiteral("light")));
+                QString error = write(picture.pixmap, path);
+                if (!error.isEmpty())
+                    return error;
+                out << path << QLatin1Char('\n');
+            }
         }
+        const QList<QWidget *> dialogs = openDialogs();
+        for (QWidget *dialog : dialogs)
+            dialog->close();
     }
     return {};
 }

@@ -9,8 +9,8 @@
 /// display, it also chooses a platform that needs none.
 void prepareRendering();
 
-/// Writes a picture of every page in every palette to the directory, which is made if needed, and prints
-/// the path of each. Returns what went wrong, or an empty string.
+/// Writes a picture of every page, and of the dialogs that it opens, in every palette to the directory, which
+/// is made if needed, and prints the path of each. Returns what went wrong, or an empty string.
 QString renderPages(const QString &directory);
 
 #endif

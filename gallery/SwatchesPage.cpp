@@ -8,52 +8,16 @@
 #include "QLxColorSlider.h"
 #include "QLxColorSpaces.h"
 #include "SignalLog.h"
-#include "SignalText.h"
+#include "SwatchParts.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QSignalBlocker>
 #include <QVariant>
 
 #include <memory>
 
 namespace {
-
-/// The colour that a screen shows for these encoded channels.
-QLxColor fromEncoded(QRgb rgb)
-{
-    const auto channel = [](int level) { return QLx::srgbToLinear(static_cast<float>(level) / 255.0F); };
-    return QLx::rgbToHsv(channel(qRed(rgb)), channel(qGreen(rgb)), channel(qBlue(rgb)));
-}
-
-void watch(QLxColorButton *button, SignalLog *log)
-{
-    watch(button, &QLxColorButton::colorButtonClicked, "colorButtonClicked", log);
-    watch(button, &QLxColorButton::temporaryColorChosen, "temporaryColorChosen", log);
-    watch(button, &QLxColorButton::finalColorChosen, "finalColorChosen", log);
-    watch(button, &QLxColorButton::userSkipped, "userSkipped", log);
-    watch(button, &QLxColorButton::userAccepted, "userAccepted", log);
-}
-
-void watch(QLxColorManipulator *manipulator, SignalLog *log)
-{
-    using M = QLxColorManipulator;
-    watch(manipulator, &M::buttonPressed, "buttonPressed", log);
-    watch(manipulator, &M::sliderPressed, "sliderPressed", log);
-    watch(manipulator, &M::sliderReleased, "sliderReleased", log);
-    watch(manipulator, &M::sliderColorChanged, "sliderColorChanged", log);
-    watch(manipulator, QOverload<>::of(&M::colorChanged), "colorChanged", log);
-    watch(manipulator, QOverload<QLxColor>::of(&M::colorChanged), "colorChanged", log);
-    watch(manipulator, QOverload<int, int, int>::of(&M::colorChanged), "colorChanged", log);
-    watch(manipulator, QOverload<float, float, float>::of(&M::colorChanged), "colorChanged", log);
-    watch(manipulator, QOverload<>::of(&M::dialogColorChanged), "dialogColorChanged", log);
-    watch(manipulator, QOverload<QLxColor>::of(&M::dialogColorChanged), "dialogColorChanged", log);
-    watch(manipulator, QOverload<int, int, int>::of(&M::dialogColorChanged), "dialogColorChanged", log);
-    watch(manipulator, QOverload<float, float, float>::of(&M::dialogColorChanged), "dialogColorChanged", log);
-    watch(manipulator, &M::finalColorSet, "finalColorSet", log);
-    watch(manipulator, &M::cancelled, "cancelled", log);
-}
 
 constexpr QSize SwatchSize(48, 32);
 
@@ -105,35 +69,17 @@ QGroupBox *makeSwatches(SignalLog *log)
     return box;
 }
 
-QLxColorManipulator *makeManipulator(const char *name, SignalLog *log)
-{
-    auto *const manipulator = new QLxColorManipulator(nullptr, name);
-    watch(manipulator, log);
-    return manipulator;
-}
-
-/// Gives the manipulator a colour as a drop on its button does.
-void setColor(QLxColorManipulator *manipulator, const QLxColor &color)
-{
-    const QSignalBlocker blocker(manipulator);
-    manipulator->findChild<QLxColorButton *>()->setColor(color);
-    manipulator->finalColorChanged(color);
-}
-
 QGroupBox *makeManipulators(SignalLog *log)
 {
     auto *const box = new QGroupBox(QStringLiteral("Colour manipulators"));
     auto *const grid = new QGridLayout(box);
     grid->setVerticalSpacing(8);
-    grid->addWidget(new QLabel(QStringLiteral("Move a slider, or drop a swatch on a button.")), 0, 0, 1, 2);
-    QLxColorManipulator *const fresh = makeManipulator("Manipulator 1", log);
-    QLxColorManipulator *const warm = makeManipulator("Manipulator 2", log);
-    QLxColorManipulator *const cold = makeManipulator("Manipulator 3", log);
-    setColor(warm, fromEncoded(0xc8793a));
-    setColor(cold, fromEncoded(0x3a7bc8));
+    grid->addWidget(new QLabel(QStringLiteral("Move a slider, click a button, or drop a swatch on it.")), 0,
+                    0, 1, 2);
     int line = 1;
-    for (QLxColorManipulator *manipulator : {fresh, warm, cold}) {
-        manipulator->setFixedHeight(manipulator->sizeHint().height());
+    for (QLxColorManipulator *manipulator :
+         {makeManipulator("Manipulator 1", log), makeManipulator("Manipulator 2", 0xc8793a, log),
+          makeManipulator("Manipulator 3", 0x3a7bc8, log)}) {
         grid->setRowMinimumHeight(line, SwatchSize.height());
         grid->addWidget(new QLabel(manipulator->objectName()), line, 0);
         grid->addWidget(manipulator, line++, 1);

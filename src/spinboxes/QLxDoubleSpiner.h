@@ -32,7 +32,7 @@ class QLxDoubleSpinerPrivate;
 ///
 /// Dragging the text sideways with the middle button changes the value by a step per pixel. The context menu
 /// edits the step. The range is at first -2147483647 to 2147483647, the precision 10 decimals, the locale
-/// QLocale::C, and keyboard tracking off.
+/// QLocale::C, and keyboard tracking off; switched on, it applies an operator with every key.
 ///
 /// Receivers may delete the box inside mouseButtonPressed(), mouseButtonReleased(), relativeOperatorApplied()
 /// of a drag, and singleStepChanged() of setSingleStep(). Everywhere else, that is inside what
