@@ -20,8 +20,8 @@
 /// is set and HSV of sRGB-encoded RGB otherwise, but for the colour that colorChanged() carries when the
 /// dialog is cancelled or closed: that one is always linear.
 ///
-/// Receivers may delete the dialog or its parent inside its signals; not, as ever, inside what a spin box
-/// sets off.
+/// Receivers may delete the dialog or its parent inside its signals; not, as ever, inside what a spin box or
+/// the check box sets off.
 class QLxColorDialog : public SharedColorDialog, public Ui::QLxColorDialogGUI
 {
     Q_OBJECT

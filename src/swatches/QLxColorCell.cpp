@@ -27,8 +27,9 @@ QLxColorCell::QLxColorCell(QLxColorArray *array)
 
 QLxColorCell::~QLxColorCell()
 {
-    if (m_array)
-        m_array->m_cells.replace(index(), nullptr); // the other cells keep their places
+    const int place = index();
+    if (place >= 0)
+        m_array->m_cells.replace(place, nullptr); // the other cells keep theirs
 }
 
 int QLxColorCell::index() const
@@ -91,9 +92,10 @@ void QLxColorCell::dropEvent(QDropEvent *event)
     event->setAccepted(QLx::hasColor(event->mimeData()));
     if (!event->isAccepted())
         return;
-    if (m_array) {
-        m_array->store(index(), QLx::colorFrom(event->mimeData()));
-        m_array->setCurrent(index());
+    const int place = index();
+    if (place >= 0) {
+        m_array->store(place, QLx::colorFrom(event->mimeData()));
+        m_array->setCurrent(place);
     }
     update();
 }

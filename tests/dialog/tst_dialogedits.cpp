@@ -14,7 +14,7 @@
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__)
-const int dialogCount = 4;
+const int dialogCount = 3;
 const int editsPerDialog = 480;
 const int wantedOfEachTriple = 1;
 const int shownEdits = 44;
