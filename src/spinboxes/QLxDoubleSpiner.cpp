@@ -490,12 +490,7 @@ bool QLxDoubleSpiner::displaySceneUnit() const
 void QLxDoubleSpiner::setDisplaySceneUnit(bool shown)
 {
     d_func()->displaySceneUnit = shown;
-    if (!QLx::showSceneUnit(this, shown))
-        return;
-    if (shown)
-        s_instancesWithSceneUnit.insert(this);
-    else
-        s_instancesWithSceneUnit.erase(this);
+    QLx::enrolForSceneUnit(this, shown, s_instancesWithSceneUnit);
 }
 
 void QLxDoubleSpiner::updateSceneUnit()
@@ -506,5 +501,5 @@ void QLxDoubleSpiner::updateSceneUnit()
 
 void QLxDoubleSpiner::updateInstancesWithSceneUnit()
 {
-    QLx::visitInOrder(s_instancesWithSceneUnit, [](QLxDoubleSpiner *box) { box->updateSceneUnit(); });
+    QLx::updateSceneUnits(s_instancesWithSceneUnit);
 }

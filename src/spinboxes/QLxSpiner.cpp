@@ -245,12 +245,7 @@ bool QLxSpiner::displaySceneUnit() const
 void QLxSpiner::setDisplaySceneUnit(bool shown)
 {
     d_func()->displaySceneUnit = shown;
-    if (!QLx::showSceneUnit(this, shown))
-        return;
-    if (shown)
-        s_instancesWithSceneUnit.insert(this);
-    else
-        s_instancesWithSceneUnit.erase(this);
+    QLx::enrolForSceneUnit(this, shown, s_instancesWithSceneUnit);
 }
 
 void QLxSpiner::updateSceneUnit()
@@ -261,5 +256,5 @@ void QLxSpiner::updateSceneUnit()
 
 void QLxSpiner::updateInstancesWithSceneUnit()
 {
-    QLx::visitInOrder(s_instancesWithSceneUnit, [](QLxSpiner *box) { box->updateSceneUnit(); });
+    QLx::updateSceneUnits(s_instancesWithSceneUnit);
 }

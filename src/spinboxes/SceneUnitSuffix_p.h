@@ -28,14 +28,26 @@ bool showSceneUnit(Box *box, bool shown)
         });
 }
 
-/// Calls visit for each box in ascending order. The set may change meanwhile: a box that has left it before
-/// its turn is not visited.
-template <typename Box, typename Visit>
-void visitInOrder(const std::set<Box *> &boxes, Visit visit)
+/// Shows the scene unit or not from now on: boxes holds those that do.
+template <typename Box>
+void enrolForSceneUnit(Box *box, bool shown, std::set<Box *> &boxes)
+{
+    if (!showSceneUnit(box, shown))
+        return;
+    if (shown)
+        boxes.insert(box);
+    else
+        boxes.erase(box);
+}
+
+/// Calls updateSceneUnit() of each box in ascending order. The set may change meanwhile: a box that has left
+/// it before its turn is not visited.
+template <typename Box>
+void updateSceneUnits(const std::set<Box *> &boxes)
 {
     for (auto next = boxes.begin(); next != boxes.end();) {
         Box *const box = *next;
-        visit(box);
+        box->updateSceneUnit();
         next = boxes.upper_bound(box);
     }
 }

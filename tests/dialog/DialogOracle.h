@@ -45,7 +45,7 @@ QString emission(const QString &who, const char *name, const Args &...args)
         .arg(who, QString::fromLatin1(name), payload.join(QStringLiteral(", ")));
 }
 
-enum OracleChannel : int { Hue, Saturation, Value, Red, Green, Blue, Lstar, Astar, Bstar };
+enum OracleChannel : int { OnHue, OnSaturation, OnValue, OnRed, OnGreen, OnBlue, OnLstar, OnAstar, OnBstar };
 
 inline const char *const ChannelNames[] = {"hue",  "saturation", "value", "red",  "green",
                                            "blue", "lstar",      "astar", "bstar"};
@@ -53,38 +53,38 @@ inline const char *const ChannelNames[] = {"hue",  "saturation", "value", "red",
 /// A channel of a colour, in its own units.
 inline float channelOf(int channel, const QLxColor &c)
 {
-    const Reference::Triple space = channel < Red     ? Reference::Triple{c.hue, c.saturation, c.value}
-                                    : channel < Lstar ? Reference::hsvToRgb(c)
-                                                      : Reference::hsvToLab(c);
+    const Reference::Triple space = channel < OnRed     ? Reference::Triple{c.hue, c.saturation, c.value}
+                                    : channel < OnLstar ? Reference::hsvToRgb(c)
+                                                        : Reference::hsvToLab(c);
     return space[size_t(channel % 3)];
 }
 
 inline QLxColor withChannel(int channel, const QLxColor &c, float x)
 {
     const auto own = size_t(channel % 3);
-    Reference::Triple space = channel < Red     ? Reference::Triple{c.hue, c.saturation, c.value}
-                              : channel < Lstar ? Reference::hsvToRgb(c)
-                                                : Reference::hsvToLab(c);
+    Reference::Triple space = channel < OnRed     ? Reference::Triple{c.hue, c.saturation, c.value}
+                              : channel < OnLstar ? Reference::hsvToRgb(c)
+                                                  : Reference::hsvToLab(c);
     space[own] = x;
-    if (channel < Red)
+    if (channel < OnRed)
         return {space[0], space[1], space[2]};
-    return channel < Lstar ? Reference::rgbToHsv(space) : Reference::labToHsv(space);
+    return channel < OnLstar ? Reference::rgbToHsv(space) : Reference::labToHsv(space);
 }
 
 inline float numberAt(int channel, float position)
 {
     const Reference::F t = position;
-    if (channel == Hue)
+    if (channel == OnHue)
         return t * 359.99F;
-    if (channel == Lstar)
+    if (channel == OnLstar)
         return t * 100.0F;
-    return channel > Lstar ? (t - 0.5F) * 256.0F : t;
+    return channel > OnLstar ? (t - 0.5F) * 256.0F : t;
 }
 
 struct ExpectedSlider
 {
     QString name;
-    int mode = Hue;
+    int mode = OnHue;
     float position = 0.5F;
     QLxColor minimum;
     QLxColor maximum = {0.0F, 0.0F, 1.0F};
@@ -92,9 +92,9 @@ struct ExpectedSlider
     QLxColor color() const
     {
         using Reference::F;
-        if (mode == Hue)
+        if (mode == OnHue)
             return {F(position) * 359.999F, 1.0F, 1.0F};
-        if (mode >= Lstar)
+        if (mode >= OnLstar)
             return withChannel(mode, minimum, numberAt(mode, position));
         const Reference::Triple low = Reference::hsvToRgb(minimum);
         const Reference::Triple high = Reference::hsvToRgb(maximum);
@@ -114,9 +114,9 @@ struct ExpectedSlider
         if (mode == newMode)
             return;
         mode = newMode;
-        if (mode >= Red && mode <= Blue) {
+        if (mode >= OnRed && mode <= OnBlue) {
             minimum = {};
-            maximum = {120.0F * static_cast<float>(mode - Red), 1.0F, 1.0F};
+            maximum = {120.0F * static_cast<float>(mode - OnRed), 1.0F, 1.0F};
         }
     }
 };
@@ -136,7 +136,7 @@ struct ExpectedSpiner
 
 struct ExpectedField
 {
-    int mode = Hue;
+    int mode = OnHue;
     QLxColor color = {0.0F, 0.0F, 0.5F};
     float constant = 0.0F;
 
@@ -170,23 +170,23 @@ struct ExpectedField
         const auto chroma = [](F t) { return (t - 0.5F) * 256.0F; };
         const F u = limited(fraction(x, w));
         const F v = limited(F(1.0F) - fraction(y, h));
-        const F own = mode >= Red && mode <= Blue ? F(channelOf(mode, color)) : F(constant);
+        const F own = mode >= OnRed && mode <= OnBlue ? F(channelOf(mode, color)) : F(constant);
         switch (mode) {
-        case Hue:
+        case OnHue:
             return setHsv({own, u, v});
-        case Saturation:
+        case OnSaturation:
             return setHsv({u * 359.99F, own, v});
-        case Value:
+        case OnValue:
             return setHsv({u * 359.99F, v, own});
-        case Red:
+        case OnRed:
             return setRgb({own, u, v});
-        case Green:
+        case OnGreen:
             return setRgb({u, own, v});
-        case Blue:
+        case OnBlue:
             return setRgb({u, v, own});
-        case Lstar:
+        case OnLstar:
             return setLab({own, chroma(u), chroma(v)});
-        case Astar:
+        case OnAstar:
             return setLab({v * 100.0F, own, chroma(u)});
         default:
             return setLab({v * 100.0F, chroma(u), own});
@@ -247,7 +247,7 @@ struct DialogOracle
         : useGamma(useSrgb)
         , cells(customColors)
     {
-        for (int channel = Hue; channel <= Bstar; ++channel) {
+        for (int channel = OnHue; channel <= OnBstar; ++channel) {
             ExpectedSlider &slider = sliders[size_t(channel)];
             slider.name = QStringLiteral("_%1Slider").arg(QLatin1String(ChannelNames[channel]));
             slider.enter(channel);
@@ -255,13 +255,13 @@ struct DialogOracle
                 QStringLiteral("_%1Spiner").arg(QLatin1String(ChannelNames[channel]));
         }
         fieldSlider.name = QStringLiteral("_colorFieldSlider");
-        spiners[Hue].maximum = 359.99;
-        for (const int channel : {Value, Red, Green, Blue}) {
+        spiners[OnHue].maximum = 359.99;
+        for (const int channel : {OnValue, OnRed, OnGreen, OnBlue}) {
             spiners[size_t(channel)].minimum = -1e6;
             spiners[size_t(channel)].maximum = 1e6;
         }
-        spiners[Lstar].maximum = 100.0;
-        for (const int channel : {Astar, Bstar}) {
+        spiners[OnLstar].maximum = 100.0;
+        for (const int channel : {OnAstar, OnBstar}) {
             spiners[size_t(channel)].minimum = -256.0;
             spiners[size_t(channel)].maximum = 256.0;
         }
@@ -316,7 +316,7 @@ struct DialogOracle
     {
         if (!field.pick(x, y, w, h))
             return;
-        const bool lab = field.mode >= Lstar;
+        const bool lab = field.mode >= OnLstar;
         if (lab)
             field.follow();
         const QLxColor picked = field.color;
@@ -382,15 +382,15 @@ struct DialogOracle
     void refresh()
     {
         ++refreshes;
-        for (int channel = Hue; channel <= Bstar; ++channel) {
+        for (int channel = OnHue; channel <= OnBstar; ++channel) {
             ExpectedSlider &slider = sliders[size_t(channel)];
             // The last slider has the ends of the value slider.
-            setEnds(slider, channel == Bstar ? Value : channel);
+            setEnds(slider, channel == OnBstar ? OnValue : channel);
             slider.moveTo(positionOf(channel));
             ExpectedSpiner &spiner = spiners[size_t(channel)];
             spiner.value = spiner.rounded(double(numberAt(channel, slider.position)));
         }
-        if (field.mode >= Lstar) {
+        if (field.mode >= OnLstar) {
             if (field.setLab(Reference::hsvToLab(color)))
                 field.follow();
         } else {
@@ -398,7 +398,7 @@ struct DialogOracle
             if (field.setRgb({Reference::linearToSrgb(rgb[0]), Reference::linearToSrgb(rgb[1]),
                               Reference::linearToSrgb(rgb[2])}))
                 field.follow();
-            if (field.mode == Hue && color.saturation == 0.0F && field.color.hue != color.hue) {
+            if (field.mode == OnHue && color.saturation == 0.0F && field.color.hue != color.hue) {
                 field.color.hue = color.hue;
                 field.follow();
             }
@@ -424,18 +424,18 @@ private:
 
     bool isEncoded(int channel) const
     {
-        return (channel >= Red && channel <= Blue) || (channel == Value && useGamma);
+        return (channel >= OnRed && channel <= OnBlue) || (channel == OnValue && useGamma);
     }
 
     float positionOf(int channel) const
     {
         const Reference::F number = channelOf(channel, color);
         Reference::F position = isEncoded(channel) ? Reference::F(Reference::linearToSrgb(number)) : number;
-        if (channel == Hue)
+        if (channel == OnHue)
             position = number / 359.99F;
-        if (channel == Lstar)
+        if (channel == OnLstar)
             position = number / 100.0F;
-        if (channel > Lstar)
+        if (channel > OnLstar)
             position = number / 256.0F + 0.5F;
         return position + 0.0F; // no slider stands at -0, so that no spin box shows it
     }
@@ -449,9 +449,9 @@ private:
     QLxColor atNumber(int channel, double number) const
     {
         auto x = static_cast<float>(number);
-        if (channel == Hue)
+        if (channel == OnHue)
             x = x > 0.0F ? std::min(x, 359.999F) : 0.0F;
-        else if (channel < Red)
+        else if (channel < OnRed)
             x = x > 0.0F ? std::min(x, 1.0F) : 0.0F;
         return withChannel(channel, color, isEncoded(channel) ? Reference::srgbToLinear(x) : x);
     }
@@ -461,16 +461,16 @@ private:
         const Reference::Triple lab = Reference::hsvToLab(color);
         const auto from = [&](float number) {
             Reference::Triple end = lab;
-            end[size_t(gradient - Lstar)] = number;
+            end[size_t(gradient - OnLstar)] = number;
             return Reference::labToHsv(end);
         };
-        if (gradient == Saturation)
+        if (gradient == OnSaturation)
             slider.setEnds({color.hue, 0.0F, color.value}, {color.hue, 1.0F, color.value});
-        else if (gradient == Value)
+        else if (gradient == OnValue)
             slider.setEnds({}, {color.hue, color.saturation, 1.0F});
-        else if (gradient == Lstar)
+        else if (gradient == OnLstar)
             slider.setEnds(from(0.0F), from(100.0F));
-        else if (gradient > Lstar)
+        else if (gradient > OnLstar)
             slider.setEnds(from(-256.0F), from(256.0F));
     }
 
@@ -485,12 +485,12 @@ private:
     {
         static const char *const prefixes[] = {
             "H: ", "S: ", "V: ", "R: ", "G: ", "B: ", "L*: ", "a*: ", "b*: "};
-        for (int channel = Hue; channel <= Bstar; ++channel) {
+        for (int channel = OnHue; channel <= OnBstar; ++channel) {
             float number = channelOf(channel, color);
-            if (channel >= Red && channel <= Blue && !useGamma)
+            if (channel >= OnRed && channel <= OnBlue && !useGamma)
                 number = Reference::linearToSrgb(number);
             labels[size_t(channel)] = QLatin1String(prefixes[channel]) +
-                                      QString::number(double(number), 'f', channel < Lstar ? 4 : 3);
+                                      QString::number(double(number), 'f', channel < OnLstar ? 4 : 3);
         }
     }
 };

@@ -77,13 +77,13 @@ public:
     /// For a spin box of the channel, also a little outside its range.
     double number(int channel)
     {
-        if (channel == Hue)
+        if (channel == OnHue)
             return double(between(-10, 370));
-        if (channel == Saturation)
+        if (channel == OnSaturation)
             return double(between(-0.1F, 1.1F));
-        if (channel == Lstar)
+        if (channel == OnLstar)
             return double(between(-5, 105));
-        if (channel > Lstar)
+        if (channel > OnLstar)
             return double(oneIn(4) ? between(-260, 260) : between(-100, 100));
         return double(oneIn(40) ? between(-200, 200) : between(-0.4F, 1.4F));
     }
@@ -243,7 +243,7 @@ inline QString RandomEditor::type(int channel)
     }
     default: {
         const double x = expected.bound(m_random.number(channel));
-        number = typed(channel == Hue ? std::min(x, 359.9) : x, 1 + m_random.below(4)); // 360.0 is refused
+        number = typed(channel == OnHue ? std::min(x, 359.9) : x, 1 + m_random.below(4)); // 360.0 is refused
     }
     }
     spiner->selectAll();

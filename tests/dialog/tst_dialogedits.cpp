@@ -122,26 +122,26 @@ void TestDialogEdits::theComparisonNotices_data()
     row(
         "nothing", [](C &) {}, "");
     row(
-        "a slider's position", [](C &c) { c.sliders[Blue]->setValue(0.25F); },
+        "a slider's position", [](C &c) { c.sliders[OnBlue]->setValue(0.25F); },
         "_blueSlider position is 0.25, should be 0.5");
     row(
         "a slider's end",
         [](C &c) {
-            c.sliders[Lstar]->setMaxColor({1, 1, 1});
+            c.sliders[OnLstar]->setMaxColor({1, 1, 1});
         },
         "_lstarSlider maximum color");
     row(
-        "the sign of a zero", [](C &c) { c.sliders[Red]->setMinColor(-0.0F, -0.0F, -0.0F); },
+        "the sign of a zero", [](C &c) { c.sliders[OnRed]->setMinColor(-0.0F, -0.0F, -0.0F); },
         "_redSlider minimum color is hsv 0 0 -0, should be hsv 0 0 0");
     row(
         "the field slider's mode", [](C &c) { c.dialog._colorFieldSlider->setMode(QLxColorSlider::Bstar); },
         "_colorFieldSlider mode is 8, should be 0");
     row(
-        "a spin box", [](C &c) { c.spiners[Astar]->setValue(7); }, "_astarSpiner value is 7");
+        "a spin box", [](C &c) { c.spiners[OnAstar]->setValue(7); }, "_astarSpiner value is 7");
     row(
-        "a label", [](C &c) { c.labels[Lstar]->clear(); }, "_Lstar_label text is \"\"");
+        "a label", [](C &c) { c.labels[OnLstar]->clear(); }, "_Lstar_label text is \"\"");
     row(
-        "a mode button", [](C &c) { c.buttons[Green]->setChecked(true); }, "_hueButton checked is false");
+        "a mode button", [](C &c) { c.buttons[OnGreen]->setChecked(true); }, "_hueButton checked is false");
     row(
         "the field's color", [](C &c) { c.dialog._colorField->setValue(0.125F); }, "_colorField color");
     row(
