@@ -16,7 +16,7 @@ class PaintOnce
 public:
     explicit PaintOnce(QWidget *widget)
         : m_widget(widget)
-        , m_updates(widget->updatesEnabled())
+        , m_updates(!widget->testAttribute(Qt::WA_ForceUpdatesDisabled)) // its own, not its parents' setting
     {
         m_widget->setUpdatesEnabled(false);
     }

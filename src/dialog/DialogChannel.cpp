@@ -79,6 +79,8 @@ std::optional<GradientEnds> gradientEnds(QLxColorSlider::Mode channel, const QLx
         return GradientEnds{{color.hue, 0.0F, color.value}, {color.hue, 1.0F, color.value}};
     if (channel == QLxColorSlider::Value)
         return GradientEnds{{}, {color.hue, color.saturation, 1.0F}};
+    if (channel < QLxColorSlider::Lstar)
+        return std::nullopt;
     const Lab lab = rgbToLab(hsvToRgb(color));
     const auto between = [](const Lab &minimum, const Lab &maximum) {
         return GradientEnds{rgbToHsv(labToRgb(minimum)), rgbToHsv(labToRgb(maximum))};

@@ -127,15 +127,21 @@ void QLxColorDialog::setInitialColor(const QLxColor &color)
     _colorField->setMode(_colorField->getMode()); // repaints
 }
 
+void QLxColorDialog::giveUp()
+{
+    updateSpiners(); // what is half typed would else be committed when the box is hidden, after the
+                     // cancelling
+    Q_EMIT colorChanged(m_previousColor);
+}
+
 void QLxColorDialog::reject()
 {
     whileAlive(
-        this, [this] { Q_EMIT colorChanged(m_previousColor); }, [this] { SharedColorDialog::reject(); });
+        this, [this] { giveUp(); }, [this] { SharedColorDialog::reject(); });
 }
 
 void QLxColorDialog::closeEvent(QCloseEvent *event)
 {
     whileAlive(
-        this, [this] { Q_EMIT colorChanged(m_previousColor); },
-        [&] { SharedColorDialog::closeEvent(event); });
+        this, [this] { giveUp(); }, [&] { SharedColorDialog::closeEvent(event); });
 }

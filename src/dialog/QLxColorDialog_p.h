@@ -141,9 +141,11 @@ private:
     void setInitialColor(const QLxColor &color);
     static QLxColor fromBoundary(const QLxColor &color);
 
-    /// The funnel: the colour is now this one, whether or not it was before. Nothing may follow the call, as
-    /// a receiver may delete the dialog.
+    /// The funnel: the colour is now this one, whether or not it was before. A receiver may delete the
+    /// dialog: whatever follows the call needs whileAlive().
     void takeColor(const QLxColor &color);
+    /// Drops what is half typed and emits the previous colour.
+    void giveUp();
     void takePosition(Channel channel, float x);
     void takeNumber(Channel channel, double x);
     void switchMode(void (QLxColorField::*fieldMode)(bool), void (QLxColorSlider::*sliderMode)(bool),

@@ -3,6 +3,7 @@
 #ifndef DRAGCURSOR_P_H
 #define DRAGCURSOR_P_H
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace QLx {
@@ -18,6 +19,7 @@ public:
 
     void push(Qt::CursorShape shape)
     {
+        giveBack(); // of a drag whose end was lost
         QGuiApplication::setOverrideCursor(shape);
         ++m_pushed;
     }

@@ -2,25 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "QLxDoubleSpiner.h"
 
-#include "DragCursor_p.h"
 #include "Expression_p.h"
 #include "MenuPosition_p.h"
 #include "NumberText_p.h"
+#include "QLxDoubleSpiner_p.h"
 #include "RelativeOperator_p.h"
 #include "SceneUnitSuffix_p.h"
-#include "ValueDrag_p.h"
 #include "WhileAlive_p.h"
 
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <QTimer>
 #include <QVariant>
 #include <QWidgetAction>
 
-#include <optional>
 #include <utility>
 
 namespace {
@@ -30,44 +27,6 @@ const int feedbackDelay = 800; // milliseconds
 const double smallestStep = 1e-8;
 
 } // namespace
-
-class QLxDoubleSpinerPrivate
-{
-public:
-    explicit QLxDoubleSpinerPrivate(QLxDoubleSpiner *q)
-        : q_ptr(q)
-    {
-    }
-
-    void leaveStepEditing();
-
-    double savedValue = 0.0;
-    double savedMinimum = 0.0;
-    double savedMaximum = 0.0;
-    int displayDecimals = 6;
-    bool useExactDisplayDecimals = false;
-    bool mouseButtonHeld = false;
-    bool stepEditing = false;
-    int lastMouseX = 0;
-    int dragMode = QLx::NoDrag;
-    QString savedPrefix;
-    QString savedSuffix;
-    bool showStepHint = true;
-    QMenu *stepMenu = nullptr;
-    QTimer *feedbackTimer = nullptr;
-    RelativeOperatorHandlingMode handlingMode = ApplyRelativeOperator;
-    bool enterPressed = false;
-    bool inputAcceptable = true;
-    RelativeOperator currentOperator = RelOpNone;
-    double currentOperand = 0.0;
-    bool validatingInput = false;
-    bool displaySceneUnit = false;
-    QLxDoubleSpiner *q_ptr;
-
-    QLx::DragCursor dragCursor;
-    bool reporting = false;      // inside relativeOperatorApplied() of a finished edit
-    bool focusAnnounced = false; // focusGained() was emitted for the event that is being delivered
-};
 
 void QLxDoubleSpinerPrivate::leaveStepEditing()
 {
@@ -170,6 +129,7 @@ void QLxDoubleSpiner::checkInput(const QString &text)
     QLxDoubleSpinerPrivate *const d = d_func();
     QString input = text;
     int pos = 0;
+    d->reporting = false; // this is another edit
     d->validatingInput = true;
     const QValidator::State state = validate(input, pos);
     d->validatingInput = false;
@@ -291,115 +251,6 @@ void QLxDoubleSpiner::focusOutEvent(QFocusEvent *event)
 {
     d_func()->enterPressed = false;
     QDoubleSpinBox::focusOutEvent(event);
-}
-
-bool QLxDoubleSpiner::event(QEvent *event)
-{
-    QLxDoubleSpinerPrivate *const d = d_func();
-    switch (event->type()) {
-    case QEvent::FocusIn:
-        // Announced here, because QWidget goes on with itself after focusInEvent(), where the receiver may
-        // have deleted the box.
-        if (!whileAlive(this, [this] { announceFocus(); }))
-            return true;
-        d->focusAnnounced = true;
-        break;
-    case QEvent::EnabledChange:
-    case QEvent::Hide:
-        if (isEnabled() && event->type() == QEvent::EnabledChange)
-            break;
-        d->mouseButtonHeld = false; // the release will not come, or will not be looked at
-        d->dragMode = QLx::NoDrag;
-        d->dragCursor.giveBack();
-        break;
-    case QEvent::ReadOnlyChange:
-        if (isReadOnly())
-            d->dragCursor.giveBack();
-        break;
-    default:
-        break;
-    }
-    return QDoubleSpinBox::event(event);
-}
-
-// Mouse
-
-bool QLxDoubleSpiner::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != lineEdit())
-        return QDoubleSpinBox::eventFilter(watched, event);
-    if (testAttribute(Qt::WA_Disabled))
-        return false;
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        return pressMouse(static_cast<const QMouseEvent *>(event));
-    case QEvent::MouseMove:
-        return moveMouse(static_cast<const QMouseEvent *>(event));
-    case QEvent::MouseButtonRelease:
-        releaseMouse(static_cast<const QMouseEvent *>(event));
-        return true;
-    default:
-        return QDoubleSpinBox::eventFilter(watched, event);
-    }
-}
-
-bool QLxDoubleSpiner::pressMouse(const QMouseEvent *event)
-{
-    QLxDoubleSpinerPrivate *const d = d_func();
-    const Qt::MouseButton button = event->button();
-    d->mouseButtonHeld = true;
-    d->lastMouseX = event->x();
-    if (!whileAlive(this, [this] { Q_EMIT mouseButtonPressed(); }))
-        return true;          // so that the event goes nowhere near the text that went with the box
-    if (d->mouseButtonHeld) { // unless the receiver hid or disabled the box
-        if (button == Qt::MiddleButton) {
-            d->dragMode = QLx::MiddleDrag;
-            if (!isReadOnly())
-                d->dragCursor.push(Qt::SizeHorCursor);
-        } else if (button == Qt::RightButton) {
-            d->dragMode = QLx::RightDrag;
-        } else if (button == Qt::LeftButton) {
-            d->dragMode = QLx::LeftDrag;
-        }
-    }
-    return button != Qt::RightButton && button != Qt::LeftButton;
-}
-
-bool QLxDoubleSpiner::moveMouse(const QMouseEvent *event)
-{
-    QLxDoubleSpinerPrivate *const d = d_func();
-    if (!d->mouseButtonHeld)
-        return false;
-    const double delta = QLx::dragDelta(singleStep(), d->lastMouseX, event->x());
-    d->lastMouseX = event->x();
-    if (delta != 0.0 && d->dragMode == QLx::MiddleDrag && !isReadOnly() &&
-        !whileAlive(this, [&] { dragBy(delta); }))
-        return true;
-    return d->dragMode != QLx::LeftDrag && d->dragMode != QLx::RightDrag;
-}
-
-void QLxDoubleSpiner::dragBy(double delta)
-{
-    const QLxDoubleSpinerPrivate *const d = d_func();
-    if (!d->stepEditing && d->handlingMode == EmitRelativeOperator) {
-        Q_EMIT relativeOperatorApplied(RelOpAdd, delta);
-        return;
-    }
-    std::optional<QSignalBlocker> blocker;
-    if (d->stepEditing)
-        blocker.emplace(this);
-    setValue(value() + delta);
-}
-
-void QLxDoubleSpiner::releaseMouse(const QMouseEvent *event)
-{
-    QLxDoubleSpinerPrivate *const d = d_func();
-    d->lastMouseX = event->x();
-    d->mouseButtonHeld = false;
-    d->dragMode = QLx::NoDrag;
-    if (!isReadOnly())
-        d->dragCursor.pop(); // whichever button it was
-    Q_EMIT mouseButtonReleased();
 }
 
 // Step, display and scene unit

@@ -126,7 +126,7 @@ private Q_SLOTS:
     void updateVisualInputFeedback();
     void setCurrentRelativeOperator(RelativeOperator op, double operand);
 
-private: // NOLINT(readability-redundant-access-specifiers): the ones above are slots
+private:
     QLxDoubleSpinerPrivate *d_func() { return m_private.get(); }
     const QLxDoubleSpinerPrivate *d_func() const { return m_private.get(); }
 

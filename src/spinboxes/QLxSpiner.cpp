@@ -154,12 +154,12 @@ void QLxSpiner::contextMenuEvent(QContextMenuEvent *event)
     const QAction *chosen = nullptr;
     if (!whileAlive(this, [&] { chosen = menu->exec(QLx::menuPosition(*this, *event)); }))
         return; // the menu went with the box
+    const int steps = chosen == up ? 1 : chosen == down ? -1 : 0;
+    const bool editsStep = chosen == step;
     delete menu;
-    if (chosen == up) {
-        stepBy(1);
-    } else if (chosen == down) {
-        stepBy(-1);
-    } else if (chosen == step) {
+    if (steps != 0) {
+        stepBy(steps);
+    } else if (editsStep) {
         const QSignalBlocker blocker(this);
         d_func()->enterStepEditing();
     }

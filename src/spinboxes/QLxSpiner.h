@@ -70,7 +70,7 @@ protected:
 private Q_SLOTS:
     void finishedEditing();
 
-private: // NOLINT(readability-redundant-access-specifiers): the one above is a slot
+private:
     QLxSpinerPrivate *d_func() { return m_private.get(); }
     const QLxSpinerPrivate *d_func() const { return m_private.get(); }
 

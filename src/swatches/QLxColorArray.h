@@ -16,8 +16,9 @@ struct QLxColorCellData;
 /// edits the same eleven, and they stay until it ends.
 ///
 /// At most one cell is current; it has a red frame, and addColor() fills it. A left click makes a cell
-/// current and picks its colour, a right click only makes it current. Right and Left move on from the current
-/// cell, Return, Enter and Space pick it; other keys go to the parent. A filled cell can be dragged as a
+/// current and picks its colour, a right click only makes it current. Of the keys that reach the array (a
+/// focused cell is a button and keeps the arrows and Space), Right and Left move on from the current cell,
+/// Return, Enter and Space pick it, and the others go to the parent. A filled cell can be dragged as a
 /// colour, and a colour can be dropped on any cell, which emits nothing.
 ///
 /// Receivers may delete the array inside selected().

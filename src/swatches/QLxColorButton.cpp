@@ -29,8 +29,10 @@ QLxColorButton::QLxColorButton(QWidget *parent)
 
 QLxColorButton::~QLxColorButton()
 {
-    if (sharedColorDialog)
-        sharedColorDialog->hide();
+    if (!sharedColorDialog)
+        return;
+    sharedColorDialog->disconnect(this); // hiding may commit what is half typed
+    sharedColorDialog->hide();
 }
 
 QSize QLxColorButton::sizeHint() const

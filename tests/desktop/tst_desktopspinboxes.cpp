@@ -151,7 +151,8 @@ void TestDesktopSpinBoxes::choose(const char *action)
             return;
         poll.stop();
         QCOMPARE(menu->pos(), text(m_integer));
-        for (QAction *candidate : menu->actions()) {
+        const QList<QAction *> actions = menu->actions();
+        for (QAction *candidate : actions) {
             if (candidate->text() == QLatin1String(action)) {
                 chosen = true;
                 click(menu->mapToGlobal(menu->actionGeometry(candidate).center()));

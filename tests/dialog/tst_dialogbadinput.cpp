@@ -39,7 +39,8 @@ void TestDialogBadInput::actsEmit()
     const Act act = allActs().at(static_cast<size_t>(index));
     act.run(dialog());
     QString letters;
-    for (const QString &line : m_log.take())
+    const QStringList lines = m_log.take();
+    for (const QString &line : lines)
         letters += line.at(0);
     QCOMPARE(letters, act.emits);
     QCOMPARE(badBoxes(dialog()), QString());

@@ -416,7 +416,8 @@ void TestDialogHosts::parent()
     QFETCH(QString, ancestors);
     QFETCH(int, expected);
     QList<QWidget *> chain;
-    for (const QString &name : ancestors.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    const QStringList names = ancestors.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &name : names) {
         chain.append(new QWidget(chain.isEmpty() ? nullptr : chain.last(), Qt::Window));
         chain.last()->setObjectName(name);
     }

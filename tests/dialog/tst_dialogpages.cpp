@@ -10,6 +10,9 @@ class TestDialogPages : public TestCase
 
 private Q_SLOTS:
     void cleanup();
+    void halfTypedNumberIsCommittedByLeavingThePage();
+    void halfTypedNumberIsDroppedByCancelling_data();
+    void halfTypedNumberIsDroppedByCancelling();
 
     // Custom colours
     void customColorIsTheSameWhateverTheSetting_data();
@@ -323,6 +326,53 @@ void TestDialogPages::resizingTheSpectrumPageSetsTheScene()
     dialog.resize(1100, 900);
     QCOMPARE(dialog._spectrumPlot->sceneRect(), scene);
     COMPARE_LOG(dialog.log, {});
+}
+
+static void typeHalf(Probe &probe)
+{
+    probe.show();
+    QApplication::setActiveWindow(&probe);
+    probe._redSpiner->setFocus();
+    probe._redSpiner->selectAll();
+    QTest::keyClicks(probe._redSpiner, QStringLiteral("0.7"));
+    QCOMPARE(probe.log.text(), QString());
+}
+
+void TestDialogPages::halfTypedNumberIsCommittedByLeavingThePage()
+{
+    Probe probe;
+    typeHalf(probe);
+    probe.tabWidget->setCurrentIndex(1); // no control paints meanwhile
+    QCOMPARE(probe.log.take().size(), 1);
+    probe.tabWidget->setCurrentIndex(0);
+    QCOMPARE(probe._redSlider->getValue(), 0.7F);
+    for (const QWidget *const control :
+         {static_cast<QWidget *>(probe._redSlider), static_cast<QWidget *>(probe._valueSlider),
+          static_cast<QWidget *>(probe._colorField), static_cast<QWidget *>(probe._colorFieldSlider)})
+        QVERIFY(control->updatesEnabled()); // and all do again
+}
+
+void TestDialogPages::halfTypedNumberIsDroppedByCancelling_data()
+{
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("Escape") << false;
+    QTest::newRow("window closed") << true;
+}
+
+void TestDialogPages::halfTypedNumberIsDroppedByCancelling()
+{
+    QFETCH(bool, closed);
+    Probe probe;
+    typeHalf(probe);
+    const QString previous = QStringLiteral("colorChanged(%1)").arg(asText(Sample));
+    if (closed) {
+        probe.close();
+        COMPARE_LOG(probe.log, {previous, previous, "rejected()"});
+    } else {
+        QTest::keyClick(probe._redSpiner, Qt::Key_Escape);
+        COMPARE_LOG(probe.log, {previous, "rejected()"});
+    }
+    COMPARE_COLOR(probe.getColor(), Sample);
 }
 
 QLX_TEST_MAIN(TestDialogPages)

@@ -96,7 +96,8 @@ inline void openMenu(Probe *box, const std::function<void(QMenu *menu)> &act,
 
 inline QAction *action(const QMenu *menu, const char *text)
 {
-    for (QAction *candidate : menu->actions()) {
+    const QList<QAction *> actions = menu->actions();
+    for (QAction *candidate : actions) {
         if (candidate->text().startsWith(QLatin1String(text)))
             return candidate;
     }

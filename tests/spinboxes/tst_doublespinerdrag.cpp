@@ -21,6 +21,7 @@ private Q_SLOTS:
     void dragWithInfiniteStep();
     void hostsBlockingStays();
     void overrideCursorOfADrag();
+    void lostReleaseLeavesNoCursor();
     void releasePopsWhicheverButton();
     void interruptedDragGivesCursorBack_data();
     void interruptedDragGivesCursorBack();
@@ -150,6 +151,16 @@ void TestDoubleSpinerDrag::overrideCursorOfADrag()
     pointer.press({20, 5}, Qt::MiddleButton);
     QVERIFY(!QApplication::overrideCursor());
     pointer.release({20, 5}, Qt::MiddleButton);
+}
+
+void TestDoubleSpinerDrag::lostReleaseLeavesNoCursor()
+{
+    SpinerProbe box;
+    Pointer pointer(box.edit());
+    pointer.press({20, 5}, Qt::MiddleButton); // whose release goes to a window that opens now
+    pointer.press({20, 5}, Qt::MiddleButton);
+    pointer.release({20, 5}, Qt::MiddleButton);
+    QVERIFY(!QApplication::overrideCursor());
 }
 
 void TestDoubleSpinerDrag::releasePopsWhicheverButton()

@@ -217,7 +217,8 @@ void TestSpiner::menuStructure()
     QLineEdit plain;
     const QScopedPointer<QMenu> standard(plain.createStandardContextMenu());
     QStringList expected;
-    for (const QAction *standardAction : standard->actions())
+    const QList<QAction *> standardActions = standard->actions();
+    for (const QAction *standardAction : standardActions)
         expected.append(standardAction->text());
     expected += {QString(), QStringLiteral("&Step up"), QStringLiteral("Step &down"), QString(),
                  QStringLiteral("Step...")};
@@ -226,7 +227,8 @@ void TestSpiner::menuStructure()
     for (int i = 0; i < 2; ++i) {
         openMenu(window.box, [&](const QMenu *menu) {
             QStringList texts;
-            for (const QAction *shown : menu->actions()) {
+            const QList<QAction *> allShown = menu->actions();
+            for (const QAction *shown : allShown) {
                 texts.append(shown->text());
                 QCOMPARE(shown->isSeparator(), shown->text().isEmpty());
             }

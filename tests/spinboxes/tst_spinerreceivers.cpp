@@ -158,6 +158,7 @@ void TestSpinerReceivers::receivers()
             interferences[interference].act(window);
     };
     QLxSpiner *const box = window.box;
+    // clazy:excludeall=lambda-in-connect (all of it goes with the window)
     connect(box, QOverload<int>::of(&QLxSpiner::valueChanged), &window, [&] { receive(Value); });
     connect(box, &QLxSpiner::singleStepChanged, &window, [&] { receive(Step); });
     connect(box, &QLxSpiner::editingFinished, &window, [&] { receive(Finished); });

@@ -62,7 +62,8 @@ void TestColorArrayDrag::dragStarts()
     m_array->addColor({0, 1, 1});
     QAbstractButton *const source = cell(QTest::currentDataTag() == QByteArray("free cell") ? 1 : 0);
     Pointer pointer(source);
-    for (const QString &step : steps.split(QLatin1Char(' '))) {
+    const QStringList list = steps.split(QLatin1Char(' '));
+    for (const QString &step : list) {
         const QStringList by = step.mid(1).split(QLatin1Char(','));
         const auto button = step.endsWith(QLatin1Char('L')) ? Qt::LeftButton : Qt::RightButton;
         if (step.startsWith(QLatin1Char('p')))
@@ -238,6 +239,7 @@ void TestColorArrayDrag::deletedInsideSelected()
     QFETCH(QString, victim);
     fill(4);
     const QPointer<QAbstractButton> picked = cell(4);
+    // clazy:excludeall=lambda-in-connect (the array goes before this function ends)
     QObject::connect(m_array, &QLxColorArray::selected, m_log.context(), [&] {
         if (victim == QLatin1String("all cells"))
             qDeleteAll(m_array->findChildren<QAbstractButton *>());
