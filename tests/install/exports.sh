@@ -6,7 +6,7 @@
 # settings and the plugin's entry points, and nothing else, and unless Designer's link beside it is relative.
 set -eu
 library=$1
-# Weak symbols without our name are Qt's inline functions.
+# Weak symbols without our name are Qt's inline functions, those of std the standard library's for our classes.
 exported=$(nm -D --defined-only -C "$library" | cut -d ' ' -f 2- | grep -vE '^[WV] .*' | cut -d ' ' -f 2- \
     | sed 's/(.*//; s/ const$//')
 weak=$(nm -D --defined-only -C "$library" | cut -d ' ' -f 2- | grep -E '^[WV] .*QLx' | cut -d ' ' -f 2- || true)
@@ -31,6 +31,7 @@ surplus=$(printf '%s\n' "$exported" "$weak" | grep -vE \
     -e '^QLx::(hsvToRgb|rgbToHsv|rgbToLab|labToHsv|linearToSrgb|srgbToLinear|to(Srgb|Q)Color(Raw|F)?|fromSrgbColor)$' \
     -e '^QLx::(sceneUnit|setSceneUnit)$' \
     -e '^QLx::(colorUseGamma|colorGammaValue|whitePoint|labChromaRange)$' \
+    -e '^std::' \
     -e '^qt_plugin_(instance|query_metadata)$' \
     -e '^(__bss_start|_edata|_end|_init|_fini|)$' || true)
 [ -z "$surplus" ] || { printf 'exported without need:\n%s\n' "$surplus"; exit 1; }
