@@ -29,7 +29,8 @@ are lost.
 - Processor: {cpu_model}
 - Compiler: {compiler}, {build_type} build
 - Qt: {qt_version}
-- Every figure is the median of {repetitions} repetitions, in processor time.
+- Every figure is the median of {repetitions} repetitions, in processor time where nothing
+  else is said.
 
 The figures belong to that machine and to how busy it was. What counts is the ratios within one run.
 """
@@ -205,9 +206,9 @@ ten sliders, nine spin boxes, the field, a swatch and nine labels. Beside it Qt'
     "pipette": Family(
         "The pipette",
         """\
-Time of the GUI thread on a virtual X display under a window manager: a tick of the timer with the pointer moved and
-at rest, and a pick, from the release of the button until the dialog shows the colour. Beside it one pixel grabbed.
-The aims are 500 µs for a tick and 5000 µs for a pick.""",
+Time that passes in the GUI thread, waiting for the display included, on a virtual X display under a window manager: a
+tick of the timer with the pointer moved and at rest, and a pick, from the release of the button until the dialog
+shows the colour. Beside it one pixel grabbed. The aims are 500 µs for a tick and 5000 µs for a pick.""",
         row_table),
     "conversion": Family(
         "Conversions",
