@@ -62,6 +62,7 @@ class TestDialogForm : public TestCase
 private Q_SLOTS:
     void cleanup();
     void startsAsListed();
+    void opensAtItsInitialSize_data();
     void opensAtItsInitialSize();
     void itemIsAsListed_data();
     void itemIsAsListed();
@@ -83,11 +84,15 @@ private Q_SLOTS:
     void noButtonIsADefault();
     void returnPressesNothing_data();
     void returnPressesNothing();
+
+private:
+    const QFont m_font = QApplication::font();
 };
 
 void TestDialogForm::cleanup()
 {
     QLx::colorUseGamma = true;
+    QApplication::setFont(m_font);
     TestCase::cleanup();
 }
 
@@ -104,8 +109,19 @@ void TestDialogForm::startsAsListed()
     QVERIFY(!dialog.isModal());
 }
 
+void TestDialogForm::opensAtItsInitialSize_data()
+{
+    QTest::addColumn<int>("points");
+    QTest::newRow("9 pt") << 9;
+    QTest::newRow("13 pt") << 13;
+}
+
 void TestDialogForm::opensAtItsInitialSize()
 {
+    QFETCH(int, points);
+    QFont font = QApplication::font();
+    font.setPointSize(points);
+    QApplication::setFont(font);
     QLxColorDialog dialog({200, 0.5F, 0.5F}, nullptr, nullptr);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
