@@ -14,13 +14,19 @@ bool QLxDoubleSpiner::event(QEvent *event)
 {
     QLxDoubleSpinerPrivate *const d = d_func();
     switch (event->type()) {
-    case QEvent::FocusIn:
+    case QEvent::FocusIn: {
+        bool handled = true;
         // Announced here, because QWidget goes on with itself after focusInEvent(), where the receiver may
         // have deleted the box.
-        if (!whileAlive(this, [this] { announceFocus(); }))
-            return true;
-        d->focusAnnounced = true;
-        break;
+        whileAlive(
+            this, [this] { announceFocus(); },
+            [&] {
+                d->focusAnnounced = true;
+                handled = QDoubleSpinBox::event(event);
+            },
+            [d] { d->focusAnnounced = false; });
+        return handled;
+    }
     case QEvent::EnabledChange:
     case QEvent::Hide:
         if (isEnabled() && event->type() == QEvent::EnabledChange)
@@ -64,6 +70,7 @@ bool QLxDoubleSpiner::pressMouse(const QMouseEvent *event)
     const Qt::MouseButton button = event->button();
     d->mouseButtonHeld = true;
     d->lastMouseX = event->x();
+    d->dragCursor.press();
     if (!whileAlive(this, [this] { Q_EMIT mouseButtonPressed(); }))
         return true;          // so that the event goes nowhere near the text that went with the box
     if (d->mouseButtonHeld) { // unless the receiver hid or disabled the box

@@ -6,9 +6,11 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace QLx {
 
-/// The application-wide cursor that a drag shows. Knows how many of the override cursors are its own, so
+/// The application-wide cursor that a drag shows. Knows whether one of the override cursors is its own, so
 /// that a drag that is interrupted, or whose widget is destroyed, leaves none behind.
 class DragCursor
 {
@@ -17,26 +19,36 @@ public:
     ~DragCursor() { giveBack(); }
     Q_DISABLE_COPY_MOVE(DragCursor)
 
+    /// A mouse button is pressed: what became of an earlier drag no longer matters.
+    void press() { m_givenBack = false; }
     void push(Qt::CursorShape shape)
     {
         giveBack(); // of a drag whose end was lost
+        press();
         QGuiApplication::setOverrideCursor(shape);
-        ++m_pushed;
+        m_pushed = true;
     }
-    /// Takes the topmost override cursor away, whoever pushed it.
+    /// A mouse button is released: takes the topmost override cursor away, whoever pushed it, unless the drag
+    /// that ends has given back its own.
     void pop()
     {
+        if (std::exchange(m_givenBack, false))
+            return;
         QGuiApplication::restoreOverrideCursor();
-        m_pushed = m_pushed > 0 ? m_pushed - 1 : 0;
+        m_pushed = false;
     }
+    /// The drag is interrupted.
     void giveBack()
     {
-        while (m_pushed > 0)
-            pop();
+        if (!std::exchange(m_pushed, false))
+            return;
+        QGuiApplication::restoreOverrideCursor();
+        m_givenBack = true;
     }
 
 private:
-    int m_pushed = 0;
+    bool m_pushed = false;
+    bool m_givenBack = false; // and its button not released yet
 };
 
 } // namespace QLx

@@ -18,8 +18,6 @@
 #include <QVariant>
 #include <QWidgetAction>
 
-#include <utility>
-
 namespace {
 
 const char acceptableProperty[] = "inputAcceptable";
@@ -243,7 +241,7 @@ void QLxDoubleSpiner::announceFocus()
 
 void QLxDoubleSpiner::focusInEvent(QFocusEvent *event)
 {
-    if (std::exchange(d_func()->focusAnnounced, false) || whileAlive(this, [this] { announceFocus(); }))
+    if (d_func()->focusAnnounced || whileAlive(this, [this] { announceFocus(); }))
         QDoubleSpinBox::focusInEvent(event);
 }
 

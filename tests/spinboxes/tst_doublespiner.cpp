@@ -26,6 +26,7 @@ private Q_SLOTS:
     void arrowWithoutChangeKeepsOperator();
     void receiverThatTakesFocusHearsOneReport();
     void commaIsAPoint();
+    void focusGainedOncePerEvent();
     void focusGainedBeforeAnythingElse();
     void unacceptableTextIsMarkedAfterAPause();
     void everyEditStartsThePauseAnew();
@@ -239,6 +240,42 @@ void TestDoubleSpiner::commaIsAPoint()
     QCOMPARE(pair.box->edit()->text(), QStringLiteral("1.5"));
     QTest::keyClick(pair.box, Qt::Key_Return);
     QCOMPARE(pair.box->value(), 1.5);
+}
+
+// Handles the keyboard focus all by itself, sometimes.
+struct FocusKeeper : SpinerProbe
+{
+    void handleFocus(bool byItself)
+    {
+        m_byItself = byItself;
+        QFocusEvent event(QEvent::FocusIn);
+        QApplication::sendEvent(this, &event);
+    }
+    void callBase(QFocusEvent *event) { SpinerProbe::focusInEvent(event); }
+
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        if (!m_byItself)
+            SpinerProbe::focusInEvent(event);
+    }
+
+private:
+    bool m_byItself = false;
+};
+
+void TestDoubleSpiner::focusGainedOncePerEvent()
+{
+    FocusKeeper box;
+    SignalLog log;
+    watch(log, &box);
+    box.handleFocus(false);
+    COMPARE_LOG(log, {"focusGained()"});
+    box.handleFocus(true);
+    COMPARE_LOG(log, {"focusGained()"});
+    QFocusEvent direct(QEvent::FocusIn);
+    box.callBase(&direct);
+    COMPARE_LOG(log, {"focusGained()"});
 }
 
 void TestDoubleSpiner::focusGainedBeforeAnythingElse()

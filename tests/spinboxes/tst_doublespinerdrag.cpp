@@ -22,6 +22,7 @@ private Q_SLOTS:
     void hostsBlockingStays();
     void overrideCursorOfADrag();
     void lostReleaseLeavesNoCursor();
+    void lostReleaseOfAnInterruptedDragIsForgotten();
     void releasePopsWhicheverButton();
     void interruptedDragGivesCursorBack_data();
     void interruptedDragGivesCursorBack();
@@ -163,6 +164,19 @@ void TestDoubleSpinerDrag::lostReleaseLeavesNoCursor()
     QVERIFY(!QApplication::overrideCursor());
 }
 
+void TestDoubleSpinerDrag::lostReleaseOfAnInterruptedDragIsForgotten()
+{
+    SpinerProbe box;
+    QApplication::setOverrideCursor(Qt::WaitCursor); // a host's
+    Pointer pointer(box.edit());
+    pointer.press({20, 5}, Qt::MiddleButton);
+    box.setReadOnly(true);
+    box.setReadOnly(false);
+    pointer.press({20, 5}, Qt::LeftButton);
+    pointer.release({20, 5}, Qt::LeftButton);
+    QVERIFY(!QApplication::overrideCursor()); // as by any other click
+}
+
 void TestDoubleSpinerDrag::releasePopsWhicheverButton()
 {
     SpinerProbe box;
@@ -182,15 +196,21 @@ void TestDoubleSpinerDrag::releasePopsWhicheverButton()
 void TestDoubleSpinerDrag::interruptedDragGivesCursorBack_data()
 {
     QTest::addColumn<int>("how");
+    QTest::addColumn<bool>("revived");
     int how = 0;
     for (const char *name :
-         {"disabled", "parent disabled", "hidden", "parent hidden", "read-only", "destroyed"})
-        QTest::newRow(name) << how++;
+         {"disabled", "parent disabled", "hidden", "parent hidden", "read-only", "destroyed"}) {
+        QTest::newRow(name) << how << false;
+        if (how < 5)
+            QTest::addRow("%s, undone before the release", name) << how << true;
+        ++how;
+    }
 }
 
 void TestDoubleSpinerDrag::interruptedDragGivesCursorBack()
 {
     QFETCH(int, how);
+    QFETCH(bool, revived);
     QApplication::setOverrideCursor(Qt::WaitCursor); // a host's, which stays
     {
         SpinerPair pair;
@@ -217,7 +237,14 @@ void TestDoubleSpinerDrag::interruptedDragGivesCursorBack()
             delete pair.box;
         }
         QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        if (how == 0 || how == 1 || how == 4) {
+        if (revived) {
+            pair.window->setEnabled(true);
+            pair.window->show();
+            pair.box->setEnabled(true);
+            pair.box->show();
+            pair.box->setReadOnly(false);
+            pointer.release({20, 5}, Qt::MiddleButton); // has nothing left to take away
+        } else if (how == 0 || how == 1 || how == 4) {
             const double value = pair.box->value();
             pointer.move({60, 5});
             QCOMPARE(pair.box->value(), value);
