@@ -67,8 +67,6 @@ void QLxColorDialog::updateControls()
 void QLxColorDialog::updateField()
 {
     const int mode = _colorField->getMode();
-    if (mode < QLxColorField::HueMode || mode > QLxColorField::BstarMode)
-        return;
     const QSignalBlocker blocker(_colorField);
     const PaintOnce paintOnce(_colorField);
     float red = 0.0F;

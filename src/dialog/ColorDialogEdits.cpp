@@ -38,8 +38,7 @@ void QLxColorDialog::setColor(QLxColor color)
 void QLxColorDialog::colorFieldChanged(QLxColor color)
 {
     // In the other modes the field works on sRGB-encoded channels.
-    const bool lab = _colorField->getMode() >= QLxColorField::LstarMode &&
-                     _colorField->getMode() <= QLxColorField::BstarMode;
+    const bool lab = _colorField->getMode() >= QLxColorField::LstarMode;
     takeColor(lab ? color : QLx::fromSrgbColor(color));
 }
 

@@ -75,23 +75,20 @@ QLxColor colorAtNumber(QLxColorSlider::Mode channel, const QLxColor &color, doub
 
 std::optional<GradientEnds> gradientEnds(QLxColorSlider::Mode channel, const QLxColor &color)
 {
-    if (channel == QLxColorSlider::Saturation)
-        return GradientEnds{{color.hue, 0.0F, color.value}, {color.hue, 1.0F, color.value}};
-    if (channel == QLxColorSlider::Value)
-        return GradientEnds{{}, {color.hue, color.saturation, 1.0F}};
-    if (channel < QLxColorSlider::Lstar)
-        return std::nullopt;
-    const Lab lab = rgbToLab(hsvToRgb(color));
-    const auto between = [](const Lab &minimum, const Lab &maximum) {
-        return GradientEnds{rgbToHsv(labToRgb(minimum)), rgbToHsv(labToRgb(maximum))};
+    const auto between = [&](float minimum, float maximum) {
+        const ColorChannel &facts = *colorChannel(channel);
+        return GradientEnds{facts.replaced(color, minimum), facts.replaced(color, maximum)};
     };
     switch (channel) {
+    case QLxColorSlider::Saturation:
+        return between(0.0F, 1.0F);
+    case QLxColorSlider::Value:
+        return GradientEnds{{}, {color.hue, color.saturation, 1.0F}};
     case QLxColorSlider::Lstar:
-        return between({0.0F, lab.astar, lab.bstar}, {100.0F, lab.astar, lab.bstar});
+        return between(0.0F, 100.0F);
     case QLxColorSlider::Astar:
-        return between({lab.lstar, -LabChromaRange, lab.bstar}, {lab.lstar, LabChromaRange, lab.bstar});
     case QLxColorSlider::Bstar:
-        return between({lab.lstar, lab.astar, -LabChromaRange}, {lab.lstar, lab.astar, LabChromaRange});
+        return between(-LabChromaRange, LabChromaRange);
     default:
         return std::nullopt;
     }
