@@ -19,7 +19,7 @@ bool QLxDoubleSpiner::event(QEvent *event)
         // Announced here, because QWidget goes on with itself after focusInEvent(), where the receiver may
         // have deleted the box.
         whileAlive(
-            this, [this] { announceFocus(); },
+            this, [d] { d->announceFocus(); },
             [&] {
                 d->focusAnnounced = true;
                 handled = QDoubleSpinBox::event(event);
@@ -53,73 +53,63 @@ bool QLxDoubleSpiner::eventFilter(QObject *watched, QEvent *event)
         return false;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        return pressMouse(static_cast<const QMouseEvent *>(event));
+        return d_func()->pressMouse(static_cast<const QMouseEvent *>(event));
     case QEvent::MouseMove:
-        return moveMouse(static_cast<const QMouseEvent *>(event));
+        return d_func()->moveMouse(static_cast<const QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
-        releaseMouse(static_cast<const QMouseEvent *>(event));
-        return true;
+        return d_func()->releaseMouse(static_cast<const QMouseEvent *>(event));
     default:
         return QDoubleSpinBox::eventFilter(watched, event);
     }
 }
 
-bool QLxDoubleSpiner::pressMouse(const QMouseEvent *event)
+bool QLxDoubleSpinerPrivate::pressMouse(const QMouseEvent *event)
 {
-    QLxDoubleSpinerPrivate *const d = d_func();
     const Qt::MouseButton button = event->button();
-    d->mouseButtonHeld = true;
-    d->lastMouseX = event->x();
-    d->dragCursor.press();
-    if (!whileAlive(this, [this] { Q_EMIT mouseButtonPressed(); }))
-        return true;          // so that the event goes nowhere near the text that went with the box
-    if (d->mouseButtonHeld) { // unless the receiver hid or disabled the box
-        if (button == Qt::MiddleButton) {
-            d->dragMode = QLx::MiddleDrag;
-            if (!isReadOnly())
-                d->dragCursor.push(Qt::SizeHorCursor);
-        } else if (button == Qt::RightButton) {
-            d->dragMode = QLx::RightDrag;
-        } else if (button == Qt::LeftButton) {
-            d->dragMode = QLx::LeftDrag;
-        }
+    mouseButtonHeld = true;
+    lastMouseX = event->x();
+    dragCursor.press();
+    if (!whileAlive(q_ptr, [this] { Q_EMIT q_ptr->mouseButtonPressed(); }))
+        return true;       // so that the event goes nowhere near the text that went with the box
+    if (mouseButtonHeld) { // unless the receiver hid or disabled the box
+        dragMode = QLx::dragModeAfterPress(button, dragMode);
+        if (button == Qt::MiddleButton && !q_ptr->isReadOnly())
+            dragCursor.push(Qt::SizeHorCursor);
     }
-    return button != Qt::RightButton && button != Qt::LeftButton;
+    return !QLx::pressIsForText(button);
 }
 
-bool QLxDoubleSpiner::moveMouse(const QMouseEvent *event)
+bool QLxDoubleSpinerPrivate::moveMouse(const QMouseEvent *event)
 {
-    QLxDoubleSpinerPrivate *const d = d_func();
-    if (!d->mouseButtonHeld)
+    if (!mouseButtonHeld)
         return false;
-    const double delta = QLx::dragDelta(singleStep(), d->lastMouseX, event->x());
-    d->lastMouseX = event->x();
-    if (delta != 0.0 && d->dragMode == QLx::MiddleDrag && !isReadOnly() &&
-        !whileAlive(this, [&] { dragBy(delta); }))
+    const double delta = QLx::dragDelta(q_ptr->singleStep(), lastMouseX, event->x());
+    lastMouseX = event->x();
+    if (delta != 0.0 && dragMode == QLx::MiddleDrag && !q_ptr->isReadOnly() &&
+        !whileAlive(q_ptr, [&] { dragBy(delta); }))
         return true;
-    return d->dragMode != QLx::LeftDrag && d->dragMode != QLx::RightDrag;
+    return !QLx::moveIsForText(dragMode);
 }
 
-void QLxDoubleSpiner::dragBy(double delta)
+void QLxDoubleSpinerPrivate::dragBy(double delta) const
 {
-    const QLxDoubleSpinerPrivate *const d = d_func();
-    if (!d->stepEditing && d->handlingMode == EmitRelativeOperator) {
-        Q_EMIT relativeOperatorApplied(RelOpAdd, delta);
+    if (!stepEditing && handlingMode == EmitRelativeOperator) {
+        Q_EMIT q_ptr->relativeOperatorApplied(RelOpAdd, delta);
         return;
     }
     std::optional<QSignalBlocker> blocker;
-    if (d->stepEditing)
-        blocker.emplace(this);
-    setValue(value() + delta);
+    if (stepEditing)
+        blocker.emplace(q_ptr);
+    q_ptr->setValue(q_ptr->value() + delta);
 }
 
-void QLxDoubleSpiner::releaseMouse(const QMouseEvent *event)
+bool QLxDoubleSpinerPrivate::releaseMouse(const QMouseEvent *event)
 {
-    QLxDoubleSpinerPrivate *const d = d_func();
-    d->lastMouseX = event->x();
-    d->mouseButtonHeld = false;
-    d->dragMode = QLx::NoDrag;
-    if (!isReadOnly())
-        d->dragCursor.pop(); // whichever button it was
-    Q_EMIT mouseButtonReleased();
+    lastMouseX = event->x();
+    mouseButtonHeld = false;
+    dragMode = QLx::NoDrag;
+    if (!q_ptr->isReadOnly())
+        dragCursor.pop(); // whichever button it was
+    Q_EMIT q_ptr->mouseButtonReleased();
+    return true;
 }

@@ -233,15 +233,16 @@ void QLxDoubleSpiner::keyPressEvent(QKeyEvent *event)
     event->setAccepted(point.isAccepted());
 }
 
-void QLxDoubleSpiner::announceFocus()
+void QLxDoubleSpinerPrivate::announceFocus()
 {
-    d_func()->enterPressed = false;
-    Q_EMIT focusGained();
+    enterPressed = false;
+    Q_EMIT q_ptr->focusGained();
 }
 
 void QLxDoubleSpiner::focusInEvent(QFocusEvent *event)
 {
-    if (d_func()->focusAnnounced || whileAlive(this, [this] { announceFocus(); }))
+    QLxDoubleSpinerPrivate *const d = d_func();
+    if (d->focusAnnounced || whileAlive(this, [d] { d->announceFocus(); }))
         QDoubleSpinBox::focusInEvent(event);
 }
 

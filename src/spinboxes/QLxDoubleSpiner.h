@@ -133,11 +133,6 @@ private:
     void resetCurrentRelativeOperator() const;
     void emitRelativeValue();
     void resetVisualInputFeedback();
-    void announceFocus();
-    bool pressMouse(const QMouseEvent *event);
-    bool moveMouse(const QMouseEvent *event);
-    void releaseMouse(const QMouseEvent *event);
-    void dragBy(double delta);
 
     static std::set<QLxDoubleSpiner *> s_instancesWithSceneUnit;
 

@@ -10,6 +10,7 @@
 #include <QString>
 
 class QMenu;
+class QMouseEvent;
 class QTimer;
 
 class QLxDoubleSpinerPrivate
@@ -21,6 +22,12 @@ public:
     }
 
     void leaveStepEditing();
+    void announceFocus();
+    /// The three take the events of the text and return whether the text is kept from seeing them.
+    bool pressMouse(const QMouseEvent *event);
+    bool moveMouse(const QMouseEvent *event);
+    bool releaseMouse(const QMouseEvent *event);
+    void dragBy(double delta) const;
 
     double savedValue = 0.0;
     double savedMinimum = 0.0;

@@ -26,6 +26,10 @@ public:
 
     void enterStepEditing();
     void leaveStepEditing();
+    /// The three take the events of the text and return whether the text is kept from seeing them.
+    bool pressMouse(const QMouseEvent *event);
+    bool moveMouse(const QMouseEvent *event);
+    bool releaseMouse(const QMouseEvent *event);
 
     int savedValue = 0;
     bool mouseButtonHeld = false;
@@ -181,58 +185,45 @@ bool QLxSpiner::eventFilter(QObject *watched, QEvent *event)
         return QSpinBox::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        return pressMouse(static_cast<const QMouseEvent *>(event));
+        return d_func()->pressMouse(static_cast<const QMouseEvent *>(event));
     case QEvent::MouseMove:
-        return moveMouse(static_cast<const QMouseEvent *>(event));
+        return d_func()->moveMouse(static_cast<const QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
-        releaseMouse(static_cast<const QMouseEvent *>(event));
-        return true;
+        return d_func()->releaseMouse(static_cast<const QMouseEvent *>(event));
     default:
         return QSpinBox::eventFilter(watched, event);
     }
 }
 
-bool QLxSpiner::pressMouse(const QMouseEvent *event)
+bool QLxSpinerPrivate::pressMouse(const QMouseEvent *event)
 {
-    QLxSpinerPrivate *const d = d_func();
-    d->mouseButtonHeld = true;
-    d->lastMouseX = event->x();
-    switch (event->button()) {
-    case Qt::LeftButton:
-        d->dragMode = QLx::LeftDrag;
-        return false;
-    case Qt::RightButton:
-        d->dragMode = QLx::RightDrag;
-        return false;
-    case Qt::MiddleButton:
-        d->dragMode = QLx::MiddleDrag;
-        return true;
-    default:
-        return true;
-    }
+    mouseButtonHeld = true;
+    lastMouseX = event->x();
+    dragMode = QLx::dragModeAfterPress(event->button(), dragMode);
+    return !QLx::pressIsForText(event->button());
 }
 
-bool QLxSpiner::moveMouse(const QMouseEvent *event)
+bool QLxSpinerPrivate::moveMouse(const QMouseEvent *event)
 {
-    QLxSpinerPrivate *const d = d_func();
-    if (!d->mouseButtonHeld)
+    if (!mouseButtonHeld)
         return false;
-    const int fromX = std::exchange(d->lastMouseX, event->x());
-    if (d->dragMode == QLx::MiddleDrag) {
+    const int fromX = std::exchange(lastMouseX, event->x());
+    if (dragMode == QLx::MiddleDrag) {
         std::optional<QSignalBlocker> blocker;
-        if (d->stepEditing)
-            blocker.emplace(this);
-        setValue(QLx::draggedValue(value(), singleStep(), fromX, event->x(), minimum(), maximum()));
+        if (stepEditing)
+            blocker.emplace(q_ptr);
+        q_ptr->setValue(QLx::draggedValue(q_ptr->value(), q_ptr->singleStep(), fromX, event->x(),
+                                          q_ptr->minimum(), q_ptr->maximum()));
     }
-    return d->dragMode != QLx::LeftDrag && d->dragMode != QLx::RightDrag;
+    return !QLx::moveIsForText(dragMode);
 }
 
-void QLxSpiner::releaseMouse(const QMouseEvent *event)
+bool QLxSpinerPrivate::releaseMouse(const QMouseEvent *event)
 {
-    QLxSpinerPrivate *const d = d_func();
-    d->lastMouseX = event->x();
-    d->mouseButtonHeld = false;
-    d->dragMode = QLx::NoDrag;
+    lastMouseX = event->x();
+    mouseButtonHeld = false;
+    dragMode = QLx::NoDrag;
+    return true;
 }
 
 // Scene unit

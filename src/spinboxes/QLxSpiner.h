@@ -74,10 +74,6 @@ private:
     QLxSpinerPrivate *d_func() { return m_private.get(); }
     const QLxSpinerPrivate *d_func() const { return m_private.get(); }
 
-    bool pressMouse(const QMouseEvent *event);
-    bool moveMouse(const QMouseEvent *event);
-    void releaseMouse(const QMouseEvent *event);
-
     static std::set<QLxSpiner *> s_instancesWithSceneUnit;
 
     const std::unique_ptr<QLxSpinerPrivate> m_private;

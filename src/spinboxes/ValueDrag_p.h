@@ -3,7 +3,7 @@
 #ifndef VALUEDRAG_P_H
 #define VALUEDRAG_P_H
 
-#include <QtGlobal>
+#include <qnamespace.h>
 
 namespace QLx {
 
@@ -14,6 +14,33 @@ enum DragMode : int {
     RightDrag = 2,  ///< opens the menu
     NoDrag = 4
 };
+
+/// The mode after a press; a button that does nothing of its own leaves the mode that there is.
+inline int dragModeAfterPress(Qt::MouseButton button, int mode)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return LeftDrag;
+    case Qt::MiddleButton:
+        return MiddleDrag;
+    case Qt::RightButton:
+        return RightDrag;
+    default:
+        return mode;
+    }
+}
+
+/// Whether a press of the button is for the text: to select in it, or for the menu.
+inline bool pressIsForText(Qt::MouseButton button)
+{
+    return button == Qt::LeftButton || button == Qt::RightButton;
+}
+
+/// Whether a movement in this mode is for the text.
+inline bool moveIsForText(int mode)
+{
+    return mode == LeftDrag || mode == RightDrag;
+}
 
 /// What a drag from one pixel to another adds: a step for each pixel to the right. Nothing without a
 /// movement, even with an infinite step.

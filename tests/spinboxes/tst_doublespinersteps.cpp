@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The step of a double spin box, and how many decimals it shows.
+#include "QLxDoubleSpiner_p.h"
 #include "SpinerProbe.h"
 #include "TestCase.h"
 
@@ -21,6 +22,9 @@ private Q_SLOTS:
     void shownText();
     void textFollowsWhenItIsWrittenNext();
     void sizeHint();
+    void leavingTheStepEditorRestoresTheBox_data();
+    void leavingTheStepEditorRestoresTheBox();
+    void dragInTheStepEditorIsSilent();
 };
 
 void TestDoubleSpinerSteps::smallestStep_data()
@@ -146,6 +150,63 @@ void TestDoubleSpinerSteps::sizeHint()
     box.setPrefix(QString(100, QLatin1Char('m')));
     box.setFont(QFont(box.font().family(), 50));
     QCOMPARE(box.sizeHint(), QSize(90, 16));
+}
+
+void TestDoubleSpinerSteps::leavingTheStepEditorRestoresTheBox_data()
+{
+    QTest::addColumn<double>("edited");
+    QTest::addColumn<double>("step");
+    QTest::newRow("a step") << 25.0 << 25.0;
+    QTest::newRow("the smallest") << 1e-8 << 1e-8;
+    QTest::newRow("too small") << 1e-9 << 1.0;
+    QTest::newRow("0") << 0.0 << 1.0;
+}
+
+// Nothing enters the editor in this class, so a state of its own stands in.
+void TestDoubleSpinerSteps::leavingTheStepEditorRestoresTheBox()
+{
+    QFETCH(double, edited);
+    QFETCH(double, step);
+    QLxDoubleSpiner box;
+    QLxDoubleSpinerPrivate state(&box);
+    state.stepEditing = true;
+    state.savedMinimum = 2000.0;
+    state.savedMaximum = 3000.0;
+    state.savedValue = 2500.0;
+    state.savedPrefix = QStringLiteral("about ");
+    state.savedSuffix = QStringLiteral(" K");
+    box.setPrefix(QStringLiteral("step "));
+    box.setDecimals(12);
+    box.setRange(0.0, 1000.0);
+    box.setValue(edited);
+    SignalLog log;
+    watch(log, &box);
+    state.leaveStepEditing();
+    QCOMPARE(box.singleStep(), step);
+    QCOMPARE(box.minimum(), 2000.0);
+    QCOMPARE(box.maximum(), 3000.0);
+    QCOMPARE(box.text(), QStringLiteral("about 2500.00 K"));
+    QVERIFY(!state.stepEditing);
+    QStringList expected{QStringLiteral("value(2000)"), QStringLiteral("value(2500)")}; // range, then value
+    if (step == edited)
+        expected.prepend(QStringLiteral("singleStepChanged(%1)").arg(asText(step)));
+    QCOMPARE(log.take(), expected);
+}
+
+void TestDoubleSpinerSteps::dragInTheStepEditorIsSilent()
+{
+    for (const RelativeOperatorHandlingMode mode : {ApplyRelativeOperator, EmitRelativeOperator}) {
+        QLxDoubleSpiner box;
+        QLxDoubleSpinerPrivate state(&box);
+        state.handlingMode = mode;
+        state.stepEditing = true;
+        SignalLog log;
+        watch(log, &box);
+        state.dragBy(2.5);
+        COMPARE_LOG(log, {});
+        QCOMPARE(box.value(), 2.5);
+        QVERIFY(!box.signalsBlocked());
+    }
 }
 
 QLX_TEST_MAIN(TestDoubleSpinerSteps)
