@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 // The mouse on a double spin box's text, and what interrupts it.
 #include "QLxDoubleSpiner_p.h"
+#include "TextMouse_p.h"
 #include "WhileAlive_p.h"
 
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QSignalBlocker>
 
 #include <optional>
@@ -51,16 +51,8 @@ bool QLxDoubleSpiner::eventFilter(QObject *watched, QEvent *event)
         return QDoubleSpinBox::eventFilter(watched, event);
     if (testAttribute(Qt::WA_Disabled))
         return false;
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        return d_func()->pressMouse(static_cast<const QMouseEvent *>(event));
-    case QEvent::MouseMove:
-        return d_func()->moveMouse(static_cast<const QMouseEvent *>(event));
-    case QEvent::MouseButtonRelease:
-        return d_func()->releaseMouse(static_cast<const QMouseEvent *>(event));
-    default:
-        return QDoubleSpinBox::eventFilter(watched, event);
-    }
+    const std::optional<bool> kept = QLx::handleMouse(d_func(), event);
+    return kept ? *kept : QDoubleSpinBox::eventFilter(watched, event);
 }
 
 bool QLxDoubleSpinerPrivate::pressMouse(const QMouseEvent *event)

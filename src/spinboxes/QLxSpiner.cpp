@@ -4,6 +4,7 @@
 
 #include "MenuPosition_p.h"
 #include "SceneUnitSuffix_p.h"
+#include "TextMouse_p.h"
 #include "ValueDrag_p.h"
 #include "WhileAlive_p.h"
 
@@ -183,16 +184,8 @@ bool QLxSpiner::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != lineEdit())
         return QSpinBox::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        return d_func()->pressMouse(static_cast<const QMouseEvent *>(event));
-    case QEvent::MouseMove:
-        return d_func()->moveMouse(static_cast<const QMouseEvent *>(event));
-    case QEvent::MouseButtonRelease:
-        return d_func()->releaseMouse(static_cast<const QMouseEvent *>(event));
-    default:
-        return QSpinBox::eventFilter(watched, event);
-    }
+    const std::optional<bool> kept = QLx::handleMouse(d_func(), event);
+    return kept ? *kept : QSpinBox::eventFilter(watched, event);
 }
 
 bool QLxSpinerPrivate::pressMouse(const QMouseEvent *event)
