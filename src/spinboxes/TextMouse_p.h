@@ -14,14 +14,14 @@ namespace QLx {
 template <typename Private>
 std::optional<bool> handleMouse(Private *box, const QEvent *event)
 {
-    const auto *const mouse = static_cast<const QMouseEvent *>(event);
+    const auto mouse = [event] { return static_cast<const QMouseEvent *>(event); };
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        return box->pressMouse(mouse);
+        return box->pressMouse(mouse());
     case QEvent::MouseMove:
-        return box->moveMouse(mouse);
+        return box->moveMouse(mouse());
     case QEvent::MouseButtonRelease:
-        return box->releaseMouse(mouse);
+        return box->releaseMouse(mouse());
     default:
         return std::nullopt;
     }
